@@ -1,0 +1,361 @@
+// Makes the descriptors from the rows and checks what a row can get wrong.
+#include "catalogue/descriptors.h"
+
+#include <stddef.h>
+
+#include <initializer_list>
+
+#include "tarn_if.h"
+
+namespace tarn {
+
+namespace {
+
+// ---- Where each owner's slots begin and end ----------------------------------------------------
+
+// A `begin` takes the number of the slot that follows it, an `end` the number after the last one.
+enum SlotNumber : int {
+#define SEQUENCE(name_, ...)                      begin##name_, rewindBegin##name_ = begin##name_ - 1,
+#define SEQUENCE_END(name_)                       end##name_, rewindEnd##name_ = end##name_ - 1,
+#define PRIMITIVE_SLOT(owner_, child_, ...)       slot##owner_##child_,
+#define COMPOSITE_SLOT(owner_, child_, ...)       slot##owner_##child_,
+#define SECOND_SLOT(owner_, child_, member_, ...) slot##owner_##member_,
+#include "catalogue/composite_ies.def"
+#define MESSAGE(name_, ...)                                                                        \
+    begin##name_, rewindBegin##name_ = begin##name_ - 1, slot##name_##MessageId,
+#define MESSAGE_END(name_)                  end##name_, rewindEnd##name_ = end##name_ - 1,
+#define PRIMITIVE_SLOT(owner_, child_, ...) slot##owner_##child_,
+#define COMPOSITE_SLOT(owner_, child_, ...) slot##owner_##child_,
+#include "catalogue/messages.def"
+    slotCount
+};
+
+enum MemberNumber : int {
+#define RECORD(name_, ...)      begin##name_, rewindBegin##name_ = begin##name_ - 1,
+#define ITEM_RECORD(name_, ...) begin##name_, rewindBegin##name_ = begin##name_ - 1,
+#define FREE_RECORD(name_, ...) begin##name_, rewindBegin##name_ = begin##name_ - 1,
+#define MEMBER(name_, member_)  member##name_##member_,
+#include "catalogue/primitive_ies.def"
+    memberCount
+};
+
+// ---- Filling the tables ------------------------------------------------------------------------
+
+constexpr void add_slot(Catalogue &c, int number, int ownerBegin, TypeId type, Presence presence,
+                        ConditionId condition, size_t offset) {
+    unsigned bit = 0x80;
+    for (int i = ownerBegin; i < number; ++i)
+        if (c.slots[i].presence != Presence::mandatory)
+            bit >>= 1;
+    if (presence == Presence::mandatory)
+        bit = 0;
+    c.slots[number] = Slot{type, presence, condition, uint8_t(bit), uint16_t(offset)};
+}
+
+constexpr void add_slots(Catalogue &c) {
+#define SLOT_(owner_, type_, member_, presence_, condition_)                                       \
+    add_slot(c, slot##owner_##member_, begin##owner_, type##type_, Presence::presence_,            \
+             condition_, offsetof(Tarn##owner_##Record, member_));
+#define PRIMITIVE_SLOT(owner_, child_, presence_, condition_)                                      \
+    SLOT_(owner_, child_, child_, presence_, condition_)
+#define COMPOSITE_SLOT(owner_, child_, presence_, condition_)                                      \
+    SLOT_(owner_, child_, child_, presence_, condition_)
+#define SECOND_SLOT(owner_, child_, member_, presence_, condition_)                                \
+    SLOT_(owner_, child_, member_, presence_, condition_)
+#include "catalogue/composite_ies.def"
+#define MESSAGE(name_, ...) SLOT_(name_, MessageId, MessageId, mandatory, always)
+#define PRIMITIVE_SLOT(owner_, child_, presence_, condition_)                                      \
+    SLOT_(owner_, child_, child_, presence_, condition_)
+#define COMPOSITE_SLOT(owner_, child_, presence_, condition_)                                      \
+    SLOT_(owner_, child_, child_, presence_, condition_)
+#include "catalogue/messages.def"
+#undef SLOT_
+}
+
+constexpr void add_members(Catalogue &c) {
+#define MEMBER(name_, member_)                                                                     \
+    c.members[member##name_##member_] = Member{type##member_, offsetof(Tarn##name_, member_)};
+#include "catalogue/primitive_ies.def"
+}
+
+constexpr SlotTable slot_table(const Catalogue &c, int begin, int end, UnpackRule rule) {
+    SlotTable table{uint16_t(begin), uint8_t(end - begin), 0, rule, false};
+    for (int i = begin; i < end; ++i) {
+        table.mandatory = uint8_t(table.mandatory + (c.slots[i].presence == Presence::mandatory));
+        table.repeats = c.slots[i].presence == Presence::repeated;
+    }
+    return table;
+}
+
+constexpr Type scalar(size_t size, unsigned width, uint32_t least, uint32_t greatest, bool hasIe) {
+    Type type{};
+    type.kind = Kind::scalar;
+    type.valueSize = uint16_t(size);
+    type.fixedSize = uint16_t(width);
+    type.least = least;
+    type.greatest = greatest;
+    type.hasIe = hasIe;
+    return type;
+}
+
+constexpr Type bytes(size_t size, unsigned capacity, uint32_t least, uint32_t greatest) {
+    Type type{};
+    type.kind = Kind::bytes;
+    type.valueSize = uint16_t(size);
+    type.capacity = uint16_t(capacity);
+    type.least = least;
+    type.greatest = greatest;
+    type.hasIe = true;
+    return type;
+}
+
+constexpr Type record(size_t size, int firstMember, bool hasIe) {
+    Type type{};
+    type.kind = Kind::record;
+    type.valueSize = uint16_t(size);
+    type.slots.first = uint16_t(firstMember);
+    type.hasIe = hasIe;
+    return type;
+}
+
+constexpr Type list(Kind kind, size_t size, TypeId item, size_t stride, size_t itemsOffset,
+                    unsigned capacity, uint32_t least, uint32_t greatest) {
+    Type type{};
+    type.kind = kind;
+    type.valueSize = uint16_t(size);
+    type.item = item;
+    type.stride = uint16_t(stride);
+    type.itemsOffset = uint8_t(itemsOffset);
+    type.capacity = uint16_t(capacity);
+    type.least = least;
+    type.greatest = greatest;
+    type.hasIe = true;
+    return type;
+}
+
+constexpr Type sequence(const SlotTable &slots) {
+    Type type{};
+    type.kind = Kind::sequence;
+    type.valueSize = sizeof(VelDllHead);
+    type.slots = slots;
+    type.hasIe = true;
+    return type;
+}
+
+constexpr void add_types(Catalogue &c) {
+#define SCALAR(name_, tag_, type_, width_, least_, greatest_, term_)                               \
+    c.types[type##name_] = scalar(sizeof(Tarn##name_), width_, least_, greatest_, true);
+#define ITEM_SCALAR(name_, tag_, type_, width_, least_, greatest_, term_)                          \
+    c.types[type##name_] = scalar(sizeof(Tarn##name_), width_, least_, greatest_, false);
+#define FREE_SCALAR(name_, type_, width_, least_, greatest_, term_)                                \
+    c.types[type##name_] = scalar(sizeof(Tarn##name_), width_, least_, greatest_, false);
+#define BYTES(name_, tag_, capacity_, least_, greatest_, term_)                                    \
+    c.types[type##name_] = bytes(sizeof(Tarn##name_), capacity_, least_, greatest_);
+#define RECORD(name_, ...) c.types[type##name_] = record(sizeof(Tarn##name_), begin##name_, true);
+#define ITEM_RECORD(name_, ...)                                                                    \
+    c.types[type##name_] = record(sizeof(Tarn##name_), begin##name_, false);
+#define FREE_RECORD(name_, ...)                                                                    \
+    c.types[type##name_] = record(sizeof(Tarn##name_), begin##name_, false);
+#define MEMBER(name_, member_) ++c.types[type##name_].slots.count;
+#define LIST(name_, tag_, item_, capacity_, least_, greatest_, term_)                              \
+    c.types[type##name_] = list(Kind::list, sizeof(Tarn##name_), type##item_, sizeof(Tarn##item_), \
+                                offsetof(Tarn##name_, items), capacity_, least_, greatest_);
+#include "catalogue/primitive_ies.def"
+#define SEQUENCE(name_, tag_, rule_, term_)                                                        \
+    c.types[type##name_] = sequence(slot_table(c, begin##name_, end##name_, UnpackRule::rule_));
+#define COMPOSITE_LIST(name_, tag_, element_, least_, greatest_, term_)                            \
+    c.types[type##name_] = list(                                                                   \
+        Kind::compositeList, sizeof(VelDllHead), type##element_, sizeof(Tarn##element_##Record),   \
+        offsetof(Tarn##name_##Record, items), greatest_, least_, greatest_);
+#include "catalogue/composite_ies.def"
+}
+
+// A record whose members all have a fixed size has one too: 6 bytes of header for each.
+constexpr void add_fixed_sizes(Catalogue &c) {
+    for (Type &type : c.types) {
+        if (type.kind != Kind::record)
+            continue;
+        unsigned sum = 0;
+        bool fixed = true;
+        for (unsigned i = 0; i < type.slots.count; ++i) {
+            const unsigned size = c.types[c.members[type.slots.first + i].type].fixedSize;
+            fixed = fixed && size != 0;
+            sum += 6 + size;
+        }
+        type.fixedSize = uint16_t(fixed ? sum : 0);
+    }
+}
+
+constexpr void add_messages(Catalogue &c) {
+#define MESSAGE(name_, id_, rule_, append_token_, validity_token_, pack_token_, term_)             \
+    c.messages[id_] = Message{slot_table(c, begin##name_, end##name_, UnpackRule::rule_),          \
+                              append_token_, validity_token_, pack_token_};
+#include "catalogue/messages.def"
+}
+
+enum Counts : bool { outside = false, inside = true };
+
+constexpr void add_conditions(Catalogue &c) {
+#define CONDITION_FOR_MSG(name_, predicate_, ie_, values_, counts_, meaning_)                      \
+    c.conditions[name_] = Condition{type##ie_, uint8_t(values_), counts_};
+#define CONDITION_FOR_IE(name_, predicate_, ie_, values_, counts_, meaning_)                       \
+    c.conditions[name_] = Condition{type##ie_, uint8_t(values_), counts_};
+#include "catalogue/conditions.def"
+}
+
+constexpr Catalogue make_catalogue() {
+    Catalogue c{};
+    add_members(c);
+    add_slots(c);
+    add_types(c);
+    add_fixed_sizes(c);
+    add_messages(c);
+    add_conditions(c);
+    return c;
+}
+
+} // namespace
+
+constexpr Catalogue catalogue = make_catalogue();
+
+namespace {
+
+// ---- What a row can get wrong ------------------------------------------------------------------
+
+static_assert(slotCount == slotCapacity && memberCount == memberCapacity,
+              "the capacities in descriptors.h are the numbers of rows");
+
+// The rows' tags in their order; a tag given twice would overwrite a type without a word.
+constexpr int tagRows[] = {
+#define SCALAR(name_, tag_, ...)      tag_,
+#define BYTES(name_, tag_, ...)       tag_,
+#define RECORD(name_, tag_, ...)      tag_,
+#define LIST(name_, tag_, ...)        tag_,
+#define ITEM_SCALAR(name_, tag_, ...) tag_,
+#define ITEM_RECORD(name_, tag_, ...) tag_,
+#include "catalogue/primitive_ies.def"
+#define SEQUENCE(name_, tag_, ...)       tag_,
+#define COMPOSITE_LIST(name_, tag_, ...) tag_,
+#include "catalogue/composite_ies.def"
+};
+
+constexpr bool tags_are_unique() {
+    bool seen[lastTag + 1] = {};
+    for (int tag : tagRows) {
+        if (tag < 1 || tag > lastTag || seen[tag])
+            return false;
+        seen[tag] = true;
+    }
+    return true;
+}
+static_assert(tags_are_unique());
+
+constexpr unsigned count_types(Kind kind, bool hasIe) {
+    unsigned count = 0;
+    for (const Type &type : catalogue.types)
+        count += type.kind == kind && type.hasIe == hasIe;
+    return count;
+}
+static_assert(count_types(Kind::scalar, true) == 80 && count_types(Kind::scalar, false) == 5);
+static_assert(count_types(Kind::bytes, true) == 16);
+static_assert(count_types(Kind::record, true) == 11 && count_types(Kind::record, false) == 4);
+static_assert(count_types(Kind::list, true) == 8);
+static_assert(count_types(Kind::sequence, true) == 13);
+static_assert(count_types(Kind::compositeList, true) == 7);
+
+constexpr bool range_holds(const Type &type) {
+    if (type.kind == Kind::scalar) {
+        const bool codeWord = type.valueSize == 4 && type.fixedSize == 2;
+        const uint64_t wire = (uint64_t{1} << (8 * type.fixedSize)) - 1;
+        return codeWord ? type.greatest == UINT32_MAX : type.greatest <= wire;
+    }
+    if (type.kind == Kind::bytes || type.kind == Kind::list || type.kind == Kind::compositeList)
+        return type.greatest <= type.capacity;
+    return true;
+}
+
+constexpr bool list_values_fit() {
+    for (const Type &type : catalogue.types)
+        if (type.kind == Kind::list && type.valueSize > listValueLimit)
+            return false;
+    return true;
+}
+static_assert(list_values_fit());
+
+constexpr bool ranges_hold() {
+    for (const Type &type : catalogue.types)
+        if (type.least > type.greatest || !range_holds(type))
+            return false;
+    return true;
+}
+static_assert(ranges_hold());
+
+// Tables are walked by position, so mandatory slots must lead; eight bits are all a mask has.
+constexpr bool slots_hold(const SlotTable &table) {
+    unsigned optional = 0;
+    for (unsigned i = 0; i < table.count; ++i) {
+        const Slot &slot = catalogue.slots[table.first + i];
+        optional += slot.presence != Presence::mandatory;
+        if ((slot.presence == Presence::mandatory && optional != 0) ||
+            !catalogue.types[slot.type].hasIe)
+            return false;
+    }
+    return optional <= 8;
+}
+
+constexpr bool all_slots_hold() {
+    for (const Type &type : catalogue.types)
+        if (type.kind == Kind::sequence && !slots_hold(type.slots))
+            return false;
+    for (const Message &message : catalogue.messages)
+        if (!slots_hold(message.slots))
+            return false;
+    return true;
+}
+static_assert(all_slots_hold());
+
+constexpr bool messages_hold() {
+    unsigned count = 0;
+    for (const Message &message : catalogue.messages)
+        count += message.slots.count != 0;
+    return count == 38 && catalogue.messages[34].slots.count == 0;
+}
+static_assert(messages_hold());
+
+constexpr bool tokens_are_distinct() {
+    uint32_t tokens[3 * messageCount] = {0xB4D9287C}; // every Get's
+    unsigned count = 1;
+    for (const Message &message : catalogue.messages) {
+        if (message.slots.count == 0)
+            continue;
+        for (uint32_t token : {message.appendToken, message.validityToken, message.packToken}) {
+            for (unsigned i = 0; i < count; ++i)
+                if (tokens[i] == token)
+                    return false;
+            tokens[count++] = token;
+        }
+    }
+    return true;
+}
+static_assert(tokens_are_distinct());
+
+// The engine finds the value, or the children, right behind the head.
+#define SCALAR(name_, ...) static_assert(offsetof(Tarn##name_##Ie, value) == sizeof(TarnIe));
+#define BYTES(name_, ...)  static_assert(offsetof(Tarn##name_##Ie, value) == sizeof(TarnIe));
+#define RECORD(name_, ...) static_assert(offsetof(Tarn##name_##Ie, value) == sizeof(TarnIe));
+#define LIST(name_, ...)   static_assert(offsetof(Tarn##name_##Ie, value) == sizeof(TarnIe));
+#include "catalogue/primitive_ies.def"
+#define SEQUENCE(name_, ...) static_assert(offsetof(Tarn##name_##Ie, children) == sizeof(TarnIe));
+#define COMPOSITE_LIST(name_, ...)                                                                 \
+    static_assert(offsetof(Tarn##name_##Ie, children) == sizeof(TarnIe));
+#include "catalogue/composite_ies.def"
+
+// Offsets are kept in 16 bits; HandoverRequest's record is the largest.
+static_assert(sizeof(TarnHandoverRequestRecord) < 65536);
+#define BYTES(name_, tag_, capacity_, ...)                                                         \
+    static_assert(sizeof(Tarn##name_::bytes) == capacity_ && offsetof(Tarn##name_, bytes) == 4);
+#include "catalogue/primitive_ies.def"
+
+} // namespace
+
+} // namespace tarn

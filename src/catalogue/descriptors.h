@@ -1,0 +1,156 @@
+// The catalogue as the engine reads it: small read-only tables made from the rows at compile time.
+//
+// Everything is an index or a small integer, so the tables need no relocations and stay in pages
+// that every process shares. An IE's tag is its index in the table of types: types that travel only
+// as list items stand under their item tag, and the two or three value codecs without any tag stand
+// behind the last tag.
+#ifndef TARN_CATALOGUE_DESCRIPTORS_H
+#define TARN_CATALOGUE_DESCRIPTORS_H
+
+#include <stdint.h>
+
+namespace [[gnu::visibility("hidden")]] tarn {
+
+enum TypeId : uint8_t {
+#define SCALAR(name_, tag_, ...)      type##name_ = tag_,
+#define BYTES(name_, tag_, ...)       type##name_ = tag_,
+#define RECORD(name_, tag_, ...)      type##name_ = tag_,
+#define LIST(name_, tag_, ...)        type##name_ = tag_,
+#define ITEM_SCALAR(name_, tag_, ...) type##name_ = tag_,
+#define ITEM_RECORD(name_, tag_, ...) type##name_ = tag_,
+#include "catalogue/primitive_ies.def"
+#define SEQUENCE(name_, tag_, ...)       type##name_ = tag_,
+#define COMPOSITE_LIST(name_, tag_, ...) type##name_ = tag_,
+#include "catalogue/composite_ies.def"
+    lastTag = 177,
+#define SCALAR(...)
+#define FREE_SCALAR(name_, ...) type##name_,
+#define FREE_RECORD(name_, ...) type##name_,
+#include "catalogue/primitive_ies.def"
+    typeCount
+};
+
+enum MessageNumber : uint8_t {
+#define MESSAGE(name_, id_, ...) message##name_ = id_,
+#include "catalogue/messages.def"
+    messageCount
+};
+
+enum ConditionId : uint8_t {
+#define CONDITION_FOR_MSG(name_, ...) name_,
+#define CONDITION_FOR_IE(name_, ...)  name_,
+#include "catalogue/conditions.def"
+    always, // no condition at all
+};
+
+enum class Kind : uint8_t { none, scalar, bytes, record, list, sequence, compositeList };
+
+enum class Presence : uint8_t {
+    mandatory,
+    optional,
+    conditional,
+    repeated, // conditional, and any number of times from its position on
+};
+
+// What the unpacker does with a conditional child, beyond this: one that is called for and cannot
+// be decoded always refuses its owner. The peers' implementations differ on purpose, and each side
+// relies on the other's leniency, so the three rules stay apart.
+enum class UnpackRule : uint8_t {
+    none,
+    // RabParams: a child that decodes but is not called for, or is invalid, refuses the owner.
+    // Where the bytes end first, the walk ends as at an optional slot; the validator then refuses.
+    refuseUncalled,
+    // IapReset: such a child is left out, and the end of the bytes is no failure.
+    dropUncalled,
+    // RelocationRequired: such a child is left out, but the bytes may not end before one called
+    // for.
+    dropUncalledRequireAtEnd,
+};
+
+// A sequence of slots in `slots[first .. first + count)`, mandatory ones leading.
+struct SlotTable {
+    uint16_t first;
+    uint8_t count;
+    uint8_t mandatory;
+    UnpackRule rule;
+    bool repeats; // the last slot is a repeated one
+};
+
+// One place of a sequence composite or a message.
+struct Slot {
+    TypeId type;
+    Presence presence;
+    ConditionId condition;
+    uint8_t presenceBit;   // in the record's presence mask; 0 for a mandatory slot
+    uint16_t recordOffset; // of the member in the owner's record
+};
+
+// One member of a record value.
+struct Member {
+    TypeId type;
+    uint16_t offset; // in the value
+};
+
+struct Type {
+    uint32_t least;     // scalar: value; byte string: length; lists: count
+    uint32_t greatest;  //
+    uint16_t valueSize; // bytes that follow the head in an IE object
+    uint16_t capacity;  // byte string, lists: elements of the array
+    uint16_t stride;    // lists: bytes from one array element to the next
+    uint16_t fixedSize; // value bytes on the wire where they are always the same, else 0
+    SlotTable slots;    // sequence: its slots; record: its members
+    Kind kind;
+    TypeId item;         // lists: the item or element
+    uint8_t itemsOffset; // lists: of the array in the value or record
+    bool hasIe;          // false for types that are never IEs of their own
+};
+
+struct Message {
+    SlotTable slots;
+    uint32_t appendToken;
+    uint32_t validityToken;
+    uint32_t packToken;
+};
+
+struct Condition {
+    TypeId type;    // of the IE looked for
+    uint8_t values; // set of numbers, one bit each
+    bool counts;    // the answer for a number inside the set
+};
+
+inline constexpr unsigned slotCapacity = 265;
+inline constexpr unsigned memberCapacity = 35;
+
+// No list value is larger than this, so that an unpack can keep its former content beside it.
+inline constexpr unsigned listValueLimit = 32;
+
+struct Catalogue {
+    Type types[typeCount];
+    Message messages[messageCount]; // by message id; unused ids have no slots
+    Slot slots[slotCapacity];
+    Member members[memberCapacity];
+    Condition conditions[always];
+};
+
+extern const Catalogue catalogue;
+
+inline const Type &type_of(TypeId id) {
+    return catalogue.types[id];
+}
+
+// A tag from the wire or from an object as a type; a tag that the protocol lacks has kind none.
+inline TypeId type_of_tag(uint32_t tag) {
+    return tag <= lastTag ? TypeId(tag) : TypeId(0);
+}
+
+inline bool is_composite(const Type &type) {
+    return type.kind >= Kind::sequence;
+}
+
+inline const Slot &slot_at(const SlotTable &table, unsigned index) {
+    return catalogue.slots[table.first + index];
+}
+
+} // namespace gnu::visibility("hidden")]]tarn
+
+#endif

@@ -1,0 +1,74 @@
+// The platform's services as the engine calls them: each call names its caller through TARN_CALLER,
+// and list members come back as the IE objects that they are.
+#ifndef TARN_PLATFORM_CALLS_H
+#define TARN_PLATFORM_CALLS_H
+
+#include <stdint.h>
+
+#include "tarn_if.h"
+#include "vel_platform.h"
+
+namespace [[gnu::visibility("hidden")]] tarn {
+
+// Who is calling the platform: one of the source modules below, and a line.
+struct Caller {
+    const char *module;
+    uint32_t line;
+};
+
+inline constexpr char moduleApi[] = "tarn_if_api";
+inline constexpr char moduleInternal[] = "tarn_if_internal_funcs";
+inline constexpr char moduleConditional[] = "tarn_if_conditional_funcs";
+
+#define TARN_CALLER(module_) (::tarn::Caller{::tarn::module_, __LINE__})
+
+// Reports every null pointer among the `count` given, in their order.
+[[gnu::cold]] void report_nulls(Caller caller, const void *const *pointers, unsigned count);
+
+// True when an argument is missing; each missing one has then been reported. The host's report is
+// not expected to return, and where it does the operation fails instead of using the null.
+template <class... Pointers>
+inline bool any_null(Caller caller, const Pointers *...pointers) {
+    if ((... && (pointers != nullptr))) [[likely]]
+        return false;
+    const void *const all[] = {pointers...};
+    report_nulls(caller, all, sizeof...(pointers));
+    return true;
+}
+
+inline void *allocate(uint32_t size, Caller caller) {
+    void *block = nullptr;
+    velAllocMemoryWithIds(size, &block, caller.module, caller.line);
+    return block;
+}
+
+inline void release(void *block, Caller caller) {
+    velFreeMemoryWithIds(&block, caller.module, caller.line);
+}
+
+// The head of any IE object, or null for a null one: every type of IE object begins with it.
+template <class Object>
+inline TarnIe *head_of(Object *ie) {
+    return reinterpret_cast<TarnIe *>(ie);
+}
+template <class Object>
+inline const TarnIe *head_of(const Object *ie) {
+    return reinterpret_cast<const TarnIe *>(ie);
+}
+
+// A node is the first field of its IE object, so the addresses are the same.
+inline TarnIe *first_ie(const VelDllHead *list, Caller caller) {
+    return reinterpret_cast<TarnIe *>(xVelDllGetHead(list, caller.module, caller.line));
+}
+
+inline TarnIe *next_ie(const VelDllHead *list, const TarnIe *ie, Caller caller) {
+    return reinterpret_cast<TarnIe *>(xVelDllGetNext(list, &ie->node, caller.module, caller.line));
+}
+
+inline void link_ie(VelDllHead *list, TarnIe *ie, Caller caller) {
+    xVelDllAddToTail(list, &ie->node, caller.module, caller.line);
+}
+
+} // namespace gnu::visibility("hidden")]]tarn
+
+#endif

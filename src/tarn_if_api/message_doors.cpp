@@ -1,0 +1,47 @@
+// The exported operations of the messages: each is one call of the engine with its message or type.
+#include "tarn_if.h"
+#include "tarn_if_api/members.h"
+#include "tarn_if_api/messages.h"
+#include "tarn_if_api/records.h"
+
+using namespace tarn;
+
+#define PRIMITIVE_EXTRACT_DOOR(owner_, child_)                                                     \
+    uint32_t TarnExtract##child_##From##owner_##Msg(TarnMsg *msg, Tarn##child_ *value) {           \
+        return extract_from_msg(msg, value, type##child_);                                         \
+    }
+
+#define MESSAGE(name_, ...)                                                                        \
+    TarnMsg *TarnNew##name_##Msg(void) {                                                           \
+        return new_msg(message##name_);                                                            \
+    }                                                                                              \
+    uint32_t TarnIs##name_##MsgValid(const TarnMsg *msg) {                                         \
+        return msg_is_valid(msg, message##name_);                                                  \
+    }                                                                                              \
+    uint32_t TarnPack##name_##Msg(const TarnMsg *msg, uint8_t *buffer, uint32_t size) {            \
+        return pack_msg(msg, buffer, size, message##name_);                                        \
+    }                                                                                              \
+    uint32_t TarnBuild##name_##Msg(uint8_t *buffer, uint32_t size,                                 \
+                                   const Tarn##name_##Record *record) {                            \
+        return build_msg(buffer, size, record, message##name_);                                    \
+    }                                                                                              \
+    uint32_t TarnGet##name_##Msg(const uint8_t *buffer, uint32_t length,                           \
+                                 Tarn##name_##Record *record) {                                    \
+        return get_msg(buffer, length, record, message##name_);                                    \
+    }                                                                                              \
+    PRIMITIVE_EXTRACT_DOOR(name_, MessageId)
+
+#define PRIMITIVE_SLOT(owner_, child_, ...)                                                        \
+    uint32_t TarnAppend##child_##To##owner_##Msg(TarnMsg *msg, const Tarn##child_ *value) {        \
+        return append_to_msg(msg, value, type##child_);                                            \
+    }                                                                                              \
+    PRIMITIVE_EXTRACT_DOOR(owner_, child_)
+
+#define COMPOSITE_SLOT(owner_, child_, ...)                                                        \
+    uint32_t TarnAppend##child_##IeTo##owner_##Msg(TarnMsg *msg, Tarn##child_##Ie *ie) {           \
+        return link_to_msg(msg, head_of(ie));                                                      \
+    }                                                                                              \
+    uint32_t TarnExtract##child_##IeFrom##owner_##Msg(TarnMsg *msg, Tarn##child_##Ie **ie) {       \
+        return borrow_from_msg(msg, reinterpret_cast<TarnIe **>(ie), type##child_);                \
+    }
+#include "catalogue/messages.def"

@@ -1,0 +1,24 @@
+// Messages: creating, judging and packing them, and decoding a buffer of unknown type.
+#ifndef TARN_MESSAGES_H
+#define TARN_MESSAGES_H
+
+#include "catalogue/descriptors.h"
+#include "platform_calls.h"
+
+namespace [[gnu::visibility("hidden")]] tarn {
+
+// Returns a new message that holds its MessageId IE.
+TarnMsg *new_msg(MessageNumber id);
+
+// Whether the message keeps the rules of the type; 0 for a null message, without a report.
+uint32_t msg_is_valid(const TarnMsg *msg, MessageNumber id);
+
+// Writes the message. A buffer that is too small is the caller's error and is reported as fatal.
+uint32_t pack_msg(const TarnMsg *msg, uint8_t *buffer, uint32_t size, MessageNumber id);
+
+// Stores in *msg the message that the bytes hold, or null.
+uint32_t unpack_new_msg(const uint8_t *buffer, uint32_t length, TarnMsg **msg);
+
+} // namespace gnu::visibility("hidden")]]tarn
+
+#endif

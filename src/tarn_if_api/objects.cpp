@@ -1,0 +1,90 @@
+#include "tarn_if_api/objects.h"
+
+namespace tarn {
+
+void report_nulls(Caller caller, const void *const *pointers, unsigned count) {
+    for (unsigned i = 0; i < count; ++i)
+        if (pointers[i] == nullptr)
+            velSwFatalError("", caller.module, caller.line);
+}
+
+TarnIe *create_ie(TypeId id, Caller caller) {
+    const Type &type = type_of(id);
+    auto *ie = static_cast<TarnIe *>(allocate(uint32_t(sizeof(TarnIe)) + type.valueSize, caller));
+    xVelDllInitNode(&ie->node, caller.module, caller.line);
+    ie->tag = id;
+    ie->extractHistory = 0;
+    if (is_composite(type))
+        xVelDllInitHead(children_of(ie), 0, caller.module, caller.line);
+    return ie;
+}
+
+TarnMsg *create_msg(MessageNumber id, Caller caller) {
+    auto *msg = static_cast<TarnMsg *>(allocate(sizeof(TarnMsg), caller));
+    xVelDllInitHead(&msg->ies, 0, caller.module, caller.line);
+    msg->messageId = id;
+    return msg;
+}
+
+namespace {
+
+// Always takes the current head, so that a released IE is never needed to find the next one.
+void delete_all(VelDllHead *list) {
+    while (TarnIe *ie = first_ie(list, TARN_CALLER(moduleApi))) {
+        xVelDllRemoveNode(list, &ie->node, moduleApi, __LINE__);
+        delete_ie(ie);
+    }
+}
+
+void reset_ie(TarnIe *ie);
+
+void reset_all(VelDllHead *list) {
+    for (TarnIe *ie = first_ie(list, TARN_CALLER(moduleApi)); ie != nullptr;
+         ie = next_ie(list, ie, TARN_CALLER(moduleApi)))
+        reset_ie(ie);
+}
+
+void reset_ie(TarnIe *ie) {
+    ie->extractHistory = 0;
+    if (is_composite(type_of(type_of_tag(ie->tag))))
+        reset_all(children_of(ie));
+}
+
+} // namespace
+
+void delete_ie(TarnIe *ie) {
+    if (is_composite(type_of(type_of_tag(ie->tag))))
+        delete_all(children_of(ie));
+    release(ie, TARN_CALLER(moduleApi));
+}
+
+void delete_msg(TarnMsg *msg) {
+    delete_all(&msg->ies);
+    release(msg, TARN_CALLER(moduleApi));
+}
+
+void delete_ie_checked(TarnIe *ie) {
+    if (!any_null(TARN_CALLER(moduleApi), ie))
+        delete_ie(ie);
+}
+
+void delete_msg_checked(TarnMsg *msg) {
+    if (!any_null(TARN_CALLER(moduleApi), msg))
+        delete_msg(msg);
+}
+
+uint32_t ie_tag_checked(const TarnIe *ie) {
+    return any_null(TARN_CALLER(moduleApi), ie) ? 0 : ie->tag;
+}
+
+void reset_ie_history(TarnIe *ie) {
+    if (!any_null(TARN_CALLER(moduleApi), ie))
+        reset_ie(ie);
+}
+
+void reset_msg_history(TarnMsg *msg) {
+    if (!any_null(TARN_CALLER(moduleApi), msg))
+        reset_all(&msg->ies);
+}
+
+} // namespace tarn

@@ -1,0 +1,16 @@
+// The exported unpackers of the messages, and the append of their MessageId IE, which reports
+// itself as one of the codecs and not, like all other appends, as an object operation.
+#include "tarn_if.h"
+#include "tarn_if_api/members.h"
+#include "tarn_if_internal_funcs/unpacking.h"
+
+using namespace tarn;
+
+#define MESSAGE(name_, ...)                                                                        \
+    TarnMsg *TarnUnpack##name_##Msg(const uint8_t *buffer, uint32_t length) {                      \
+        return unpack_msg_checked(buffer, length, message##name_);                                 \
+    }                                                                                              \
+    uint32_t TarnAppendMessageIdTo##name_##Msg(TarnMsg *msg, const TarnMessageId *value) {         \
+        return append_message_id(msg, value);                                                      \
+    }
+#include "catalogue/messages.def"

@@ -1,0 +1,97 @@
+#include "tarn_if_internal_funcs/packing.h"
+
+#include "tarn_if_api/objects.h"
+#include "tarn_if_internal_funcs/sizes.h"
+#include "tarn_if_internal_funcs/slots.h"
+#include "tarn_if_internal_funcs/values.h"
+
+namespace tarn {
+
+namespace {
+
+bool write_children(TypeId id, const VelDllHead *children, Output *out);
+
+// Sizes are not asked again on the way down: a composite's length is filled in once its children
+// are written, so packing stays linear in the IEs however deep they nest.
+bool write_composite(const TarnIe *ie, TypeId id, Output *out) {
+    Output rest = *out;
+    if (rest.left < headerSize)
+        return false;
+    rest.skip(headerSize);
+    if (!write_children(id, children_of(ie), &rest))
+        return false;
+    store16(out->at, id);
+    store32(out->at + tagSize, out->left - headerSize - rest.left);
+    *out = rest;
+    return true;
+}
+
+bool write_ie(const TarnIe *ie, TypeId id, Output *out) {
+    if (is_composite(type_of(id)))
+        return write_composite(ie, id, out);
+    uint32_t count = 0;
+    if (!write_tlv(id, value_of(ie), *out, &count))
+        return false;
+    out->skip(count);
+    return true;
+}
+
+bool write_elements(TypeId element, const VelDllHead *list, Output *out) {
+    for (const TarnIe *ie = first_ie(list, TARN_CALLER(moduleInternal)); ie != nullptr;
+         ie = next_ie(list, ie, TARN_CALLER(moduleInternal)))
+        if (ie->tag != element || !write_ie(ie, element, out))
+            return false;
+    return true;
+}
+
+bool write_children(TypeId id, const VelDllHead *children, Output *out) {
+    const Type &type = type_of(id);
+    if (type.kind == Kind::compositeList)
+        return write_elements(type.item, children, out);
+    return write_slots(type.slots, children, out);
+}
+
+} // namespace
+
+bool write_slots(const SlotTable &table, const VelDllHead *list, Output *out) {
+    unsigned position = 0;
+    for (const TarnIe *ie = first_ie(list, TARN_CALLER(moduleInternal)); ie != nullptr;
+         ie = next_ie(list, ie, TARN_CALLER(moduleInternal)))
+        if (next_slot(table, ie->tag, &position) == nullptr || !write_ie(ie, TypeId(ie->tag), out))
+            return false;
+    return true;
+}
+
+// The room is compared with the size by the object's own tag, while the tag written is that of the
+// operation. An object with another tag may thus pass the first check and fail at its value, with
+// the header written and counted.
+uint32_t pack_primitive_ie(const TarnIe *ie, uint8_t *buffer, uint32_t available, uint32_t *written,
+                           TypeId id) {
+    if (any_null(TARN_CALLER(moduleInternal), ie, buffer, written))
+        return 0;
+    *written = 0;
+    if (ie_size(ie) > available)
+        return 0;
+    return write_tlv(id, value_of(ie), Output{buffer, available}, written);
+}
+
+// The length written here is the one by the object's own tag as well, and it is there even when a
+// child fails: the bytes before that child are reported as written.
+uint32_t pack_composite_ie(const TarnIe *ie, uint8_t *buffer, uint32_t available, uint32_t *written,
+                           TypeId id) {
+    if (any_null(TARN_CALLER(moduleInternal), ie, buffer, written))
+        return 0;
+    *written = 0;
+    const uint32_t size = ie_size(ie);
+    if (size > available)
+        return 0;
+    store16(buffer, id);
+    store32(buffer + tagSize, size - headerSize);
+    Output rest{buffer, available};
+    rest.skip(headerSize);
+    const bool ok = write_children(id, children_of(ie), &rest);
+    *written = available - rest.left;
+    return ok;
+}
+
+} // namespace tarn

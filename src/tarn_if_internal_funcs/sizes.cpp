@@ -1,0 +1,37 @@
+#include "tarn_if_internal_funcs/sizes.h"
+
+#include "tarn_if_api/objects.h"
+#include "tarn_if_internal_funcs/values.h"
+
+namespace tarn {
+
+uint32_t ie_size(const TarnIe *ie) {
+    const TypeId id = type_of_tag(ie->tag);
+    const Type &type = type_of(id);
+    if (!type.hasIe)
+        return headerSize;
+    if (is_composite(type))
+        return add_sizes(headerSize, ies_size(children_of(ie)));
+    return add_sizes(headerSize, value_size(id, value_of(ie)));
+}
+
+uint32_t ies_size(const VelDllHead *list) {
+    uint32_t size = 0;
+    for (const TarnIe *ie = first_ie(list, TARN_CALLER(moduleInternal)); ie != nullptr;
+         ie = next_ie(list, ie, TARN_CALLER(moduleInternal)))
+        size = add_sizes(size, ie_size(ie));
+    return size;
+}
+
+uint32_t ie_size_checked(const TarnIe *ie) {
+    return any_null(TARN_CALLER(moduleInternal), ie) ? 0 : ie_size(ie);
+}
+
+int32_t msg_size_checked(const TarnMsg *msg) {
+    if (any_null(TARN_CALLER(moduleApi), msg))
+        return 0;
+    const uint32_t size = ies_size(&msg->ies);
+    return size > INT32_MAX ? INT32_MAX : int32_t(size);
+}
+
+} // namespace tarn

@@ -1,0 +1,22 @@
+// Sizes on the wire of whole IEs and messages.
+#ifndef TARN_SIZES_H
+#define TARN_SIZES_H
+
+#include "platform_calls.h"
+
+namespace [[gnu::visibility("hidden")]] tarn {
+
+// Returns the bytes that the IE occupies on the wire, header included; by its own tag, and 6 for a
+// tag that the protocol does not code.
+uint32_t ie_size(const TarnIe *ie);
+
+// Returns the sum over all IEs of the list.
+uint32_t ies_size(const VelDllHead *list);
+
+// The operations of the public interface.
+uint32_t ie_size_checked(const TarnIe *ie);
+int32_t msg_size_checked(const TarnMsg *msg);
+
+} // namespace gnu::visibility("hidden")]]tarn
+
+#endif

@@ -1,0 +1,98 @@
+#include "tarn_if_internal_funcs/validity.h"
+
+#include "tarn_if_api/objects.h"
+#include "tarn_if_conditional_funcs/conditions.h"
+#include "tarn_if_internal_funcs/values.h"
+
+namespace tarn {
+
+namespace {
+
+bool elements_are_valid(const Type &list, const VelDllHead *children) {
+    uint32_t count = 0;
+    for (const TarnIe *ie = first_ie(children, TARN_CALLER(moduleInternal)); ie != nullptr;
+         ie = next_ie(children, ie, TARN_CALLER(moduleInternal))) {
+        if (!ie_is_valid(ie, list.item))
+            return false;
+        ++count;
+    }
+    return count >= list.least && count <= list.greatest;
+}
+
+// Returns the slot behind the mandatory ones that takes this tag, or null. A child type named twice
+// has its later slot there.
+const Slot *optional_slot(const SlotTable &table, uint32_t tag) {
+    for (unsigned i = table.mandatory; i < table.count; ++i)
+        if (slot_at(table, i).type == tag)
+            return &slot_at(table, i);
+    return nullptr;
+}
+
+// Notes the presence bits of conditional slots: one counts as present when at least one occurrence
+// is valid. The verdict on a plain optional child is not asked for, since it never counts: callers
+// may rely on an owner being valid whatever its optional children hold.
+bool note_optional(const SlotTable &table, const TarnIe *ie, uint32_t position, unsigned *present) {
+    const Slot *slot = optional_slot(table, ie->tag);
+    if (slot == nullptr)
+        return position >= table.count;
+    if (slot->presence != Presence::optional && (*present & slot->presenceBit) == 0 &&
+        ie_is_valid(ie, slot->type))
+        *present |= slot->presenceBit;
+    return true;
+}
+
+// A conditional child must be there when its condition holds, and must not when it does not.
+bool conditions_are_met(const SlotTable &table, const VelDllHead *list, unsigned present) {
+    Conditions conditions(list);
+    for (unsigned i = table.mandatory; i < table.count; ++i) {
+        const Slot &slot = slot_at(table, i);
+        if (slot.presence != Presence::optional &&
+            conditions.hold(slot.condition) != ((present & slot.presenceBit) != 0))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+// The check is by position. Mandatory slots lead and must each hold their IE; behind them optional
+// ones may stand in any order and any number of times. What stands behind the last position is
+// ignored, whatever its tag: peers of a later version may add to a message. A repeated slot alone
+// is looked for to the end.
+bool slots_are_valid(const SlotTable &table, const VelDllHead *list) {
+    uint32_t position = 0;
+    unsigned present = 0;
+    for (const TarnIe *ie = first_ie(list, TARN_CALLER(moduleInternal)); ie != nullptr;
+         ie = next_ie(list, ie, TARN_CALLER(moduleInternal)), ++position) {
+        if (position >= table.count && !table.repeats)
+            break;
+        const bool ok = position < table.mandatory ? ie_is_valid(ie, slot_at(table, position).type)
+                                                   : note_optional(table, ie, position, &present);
+        if (!ok)
+            return false;
+    }
+    return position >= table.mandatory && conditions_are_met(table, list, present);
+}
+
+bool ie_is_valid(const TarnIe *ie, TypeId id) {
+    if (ie->tag != id)
+        return false;
+    const Type &type = type_of(id);
+    if (type.kind == Kind::sequence)
+        return slots_are_valid(type.slots, children_of(ie));
+    if (type.kind == Kind::compositeList)
+        return elements_are_valid(type, children_of(ie));
+    return value_is_valid(id, value_of(ie));
+}
+
+uint32_t primitive_ie_is_valid(const TarnIe *ie, TypeId id) {
+    if (any_null(TARN_CALLER(moduleInternal), ie))
+        return 0;
+    return ie_is_valid(ie, id);
+}
+
+uint32_t composite_ie_is_valid(const TarnIe *ie, TypeId id) {
+    return ie != nullptr && ie_is_valid(ie, id);
+}
+
+} // namespace tarn

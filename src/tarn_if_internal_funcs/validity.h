@@ -1,0 +1,24 @@
+// Whether IE objects keep the rules of their types: positions, mandatory children, counts,
+// conditions. What travels on the wire is the unpackers' affair.
+#ifndef TARN_VALIDITY_H
+#define TARN_VALIDITY_H
+
+#include "catalogue/descriptors.h"
+#include "platform_calls.h"
+
+namespace [[gnu::visibility("hidden")]] tarn {
+
+// Whether the list keeps the rules of the table.
+bool slots_are_valid(const SlotTable &table, const VelDllHead *list);
+
+// Whether the object has this type's tag and a valid value or valid children.
+bool ie_is_valid(const TarnIe *ie, TypeId id);
+
+// The operations of the public interface. A missing composite answers 0 without a report, so that
+// the result of a failed Extract can be passed on as it is.
+uint32_t primitive_ie_is_valid(const TarnIe *ie, TypeId id);
+uint32_t composite_ie_is_valid(const TarnIe *ie, TypeId id);
+
+} // namespace gnu::visibility("hidden")]]tarn
+
+#endif
