@@ -38,8 +38,8 @@
  *   child that is absent, malformed or invalid is left out, and the next one is tried at the
  *   same place. A mandatory child that is so fails the IE.
  *
- *   List. Elements are taken until the bytes that the length field declares are used up,
- *   exactly. An element that is malformed or invalid fails the IE.
+ *   List. Elements are taken until the bytes that the length field declares are used up. It fails
+ *   if an element is malformed, invalid or goes beyond those bytes, or if the buffer ends first.
  *
  *   When it fails, *consumed tells the bytes before the failing child, and ie keeps the children
  *   that were taken before; the failed child is released with all below it.
@@ -52,7 +52,8 @@
  *   IE is refused there up to the number of places in the table; behind that anything is
  *   ignored. A conditional child must stand valid exactly if its condition holds.
  *
- *   List. The number of elements must be in range, and each must be valid.
+ *   List. The number of elements must be in range, each must be valid, and nothing else may stand
+ *   between them.
  *
  * TarnCRecord is the form that C has in the records of the messages, for the one-call Build and Get
  * (tarn_if_messages.h). A sequence begins with a presence mask in which each optional or
@@ -60,7 +61,31 @@
  * the order of the table. A list is a count and an array for as many elements as are valid at most.
  *
  * Fatal. Every pointer but msg is required, but for TarnIsCIeValid; a null one is reported, and the
- * operation fails. The msg argument is not used and may be null. */
+ * operation fails. The msg argument is not used and may be null.
+ *
+ * How they nest, from those that are in no other one; messages hold composites of any level:
+ *
+ *   ModifiedSrncContainer
+ *   PsIuhGatewayInfo
+ *   RtpServerInfo
+ *   TargetRNCId
+ *   UeContextRef
+ *     RabDataInfoList
+ *       RabDataInfo
+ *   ResourceInfoPerCnDomainListAck
+ *     ResourceInfoPerCnDomainAck
+ *       RabSetupSuccessList
+ *         RabSetupSuccessInfo
+ *   RabToSetupPerCnDomainList
+ *     RabToSetupPerCnDomain
+ *       RabList
+ *         RabToSetUpInfo
+ *           RabParams
+ *             SduParams
+ *               SduParamValue
+ *                 SduFormatInfoParamList
+ *                   SduFormatInfoParams
+ */
 #ifndef TARN_IF_COMPOSITE_IES_H
 #define TARN_IF_COMPOSITE_IES_H
 

@@ -43,11 +43,11 @@
  * presence mask where children are optional. Records belong to the caller and hold no pointers.
  * Those with nested lists are large.
  *
- * TarnBuildMMsg packs the record into buffer, returning the number of bytes written and 0 on
- * failure. MessageId is not read. It fails if a value is invalid, a count or length is beyond its
- * array, or the finished message is invalid; a size that is too small is fatal. Each failure is
- * told to velSwTokenDebug, with a token of its own for the append, the validity and the packing of
- * each message.
+ * TarnBuildMMsg packs the record into buffer, its mandatory members and those whose presence bit is
+ * set, returning the number of bytes written and 0 on failure. MessageId is not read. It fails if a
+ * value is invalid, a count or length is beyond its array, or the finished message is invalid; a
+ * size that is too small is fatal. Each failure is told to velSwTokenDebug, with a token of its own
+ * for the append, the validity and the packing of each message.
  *
  * TarnGetMMsg unpacks buffer into the record. It writes MessageId and the member of each IE that it
  * finds, sets the presence bits and counts, and leaves everything else as it was: clear the record,
@@ -2176,7 +2176,7 @@ uint32_t TarnGetIuReleaseCompleteMsg(const uint8_t *buffer, uint32_t length,
  * Unpacking leaves out a conditional IE that is invalid or whose condition does not hold, and fails
  * if one is missing or malformed although its condition holds, also at the message's end.
  *
- * Build writes 2533 bytes at most. */
+ * Build writes 2533 bytes at most. The record takes about 2 KiB of the caller's memory. */
 
 typedef struct TarnRelocationRequiredRecord {
     uint8_t MessageId;
@@ -2482,7 +2482,7 @@ uint32_t TarnGetRelocationCancelMsg(const uint8_t *buffer, uint32_t length,
  *   L3Information          tag 120  optional
  *   HandoutRabReleaseList  tag 121  optional
  *
- * Build writes 2382 bytes at most. */
+ * Build writes 2382 bytes at most. The record takes about 2 KiB of the caller's memory. */
 
 typedef struct TarnRelocationCommandRecord {
     uint8_t MessageId;
@@ -2943,7 +2943,7 @@ uint32_t TarnGetHandoverCancelIndMsg(const uint8_t *buffer, uint32_t length,
  *   IntProtAlgo                     tag 12   optional
  *   ResourceInfoPerCnDomainListAck  tag 153  composite, optional
  *
- * Build writes 2427 bytes at most. */
+ * Build writes 2427 bytes at most. The record takes about 2 KiB of the caller's memory. */
 
 typedef struct TarnHandoverReqAckRecord {
     uint8_t MessageId;

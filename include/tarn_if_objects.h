@@ -8,7 +8,7 @@
  * &object->ie of any IE object is what the operations here take. Behind this head stands the value
  * of a primitive IE (tarn_if_primitive_ies.h) or the list of a composite IE's children, which are
  * IE objects again (tarn_if_composite_ies.h). A message object is the list of a message's IE
- * objects, of which the first always is the MessageId IE (tarn_if_messages.h).
+ * objects, the first of which is always the MessageId IE (tarn_if_messages.h).
  *
  * Ownership. A message object owns its IE objects and a composite IE object owns its children, to
  * any depth. The caller owns each message object that it created or unpacked, until it hands it to

@@ -2383,7 +2383,7 @@ uint32_t TarnPackRNCId(const TarnRNCId *value, uint8_t *buffer, uint32_t availab
 uint32_t TarnUnpackRNCId(TarnRNCId *value, uint32_t length, const uint8_t *buffer,
                          uint32_t available, uint32_t *consumed);
 
-/* TarnIsRNCIdValid returns 1 if *value is 0 to 4096, and 0 otherwise. */
+/* TarnIsRNCIdValid returns 1 if *value is at most 4096, and 0 otherwise. */
 uint32_t TarnIsRNCIdValid(const TarnRNCId *value);
 
 /* TarnPackRNCIdIe packs ie and sets *written, returning 1 on success and 0 on failure. */
@@ -2422,7 +2422,7 @@ uint32_t TarnPackTargetCellId(const TarnTargetCellId *value, uint8_t *buffer, ui
 uint32_t TarnUnpackTargetCellId(TarnTargetCellId *value, uint32_t length, const uint8_t *buffer,
                                 uint32_t available, uint32_t *consumed);
 
-/* TarnIsTargetCellIdValid returns 1 if *value is 0 to 0x0FFFFFFF, and 0 otherwise. */
+/* TarnIsTargetCellIdValid returns 1 if *value is at most 0x0FFFFFFF, and 0 otherwise. */
 uint32_t TarnIsTargetCellIdValid(const TarnTargetCellId *value);
 
 /* TarnPackTargetCellIdIe packs ie and sets *written, returning 1 on success and 0 on failure. */
@@ -2846,7 +2846,7 @@ uint32_t TarnPackMaxBitRateUplink(const TarnMaxBitRateUplink *value, uint8_t *bu
 uint32_t TarnUnpackMaxBitRateUplink(TarnMaxBitRateUplink *value, uint32_t length,
                                     const uint8_t *buffer, uint32_t available, uint32_t *consumed);
 
-/* TarnIsMaxBitRateUplinkValid returns 1 if *value is 0 to 8000000, and 0 otherwise. */
+/* TarnIsMaxBitRateUplinkValid returns 1 if *value is at most 8000000, and 0 otherwise. */
 uint32_t TarnIsMaxBitRateUplinkValid(const TarnMaxBitRateUplink *value);
 
 /* TarnPackMaxBitRateUplinkIe packs ie and sets *written, returning 1 on success and 0 on
@@ -2889,7 +2889,7 @@ uint32_t TarnUnpackMaxBitRateDownlink(TarnMaxBitRateDownlink *value, uint32_t le
                                       const uint8_t *buffer, uint32_t available,
                                       uint32_t *consumed);
 
-/* TarnIsMaxBitRateDownlinkValid returns 1 if *value is 0 to 16000000, and 0 otherwise. */
+/* TarnIsMaxBitRateDownlinkValid returns 1 if *value is at most 16000000, and 0 otherwise. */
 uint32_t TarnIsMaxBitRateDownlinkValid(const TarnMaxBitRateDownlink *value);
 
 /* TarnPackMaxBitRateDownlinkIe packs ie and sets *written, returning 1 on success and 0 on
@@ -2932,7 +2932,7 @@ uint32_t TarnPackCpsSduMaxBitRate(const TarnCpsSduMaxBitRate *value, uint8_t *bu
 uint32_t TarnUnpackCpsSduMaxBitRate(TarnCpsSduMaxBitRate *value, uint32_t length,
                                     const uint8_t *buffer, uint32_t available, uint32_t *consumed);
 
-/* TarnIsCpsSduMaxBitRateValid returns 1 if *value is 0 to 2097152, and 0 otherwise. */
+/* TarnIsCpsSduMaxBitRateValid returns 1 if *value is at most 2097152, and 0 otherwise. */
 uint32_t TarnIsCpsSduMaxBitRateValid(const TarnCpsSduMaxBitRate *value);
 
 /* TarnPackCpsSduMaxBitRateIe packs ie and sets *written, returning 1 on success and 0 on
@@ -3014,7 +3014,7 @@ uint32_t TarnPackCpsSduAvgBitRate(const TarnCpsSduAvgBitRate *value, uint8_t *bu
 uint32_t TarnUnpackCpsSduAvgBitRate(TarnCpsSduAvgBitRate *value, uint32_t length,
                                     const uint8_t *buffer, uint32_t available, uint32_t *consumed);
 
-/* TarnIsCpsSduAvgBitRateValid returns 1 if *value is 0 to 2097152, and 0 otherwise. */
+/* TarnIsCpsSduAvgBitRateValid returns 1 if *value is at most 2097152, and 0 otherwise. */
 uint32_t TarnIsCpsSduAvgBitRateValid(const TarnCpsSduAvgBitRate *value);
 
 /* TarnPackCpsSduAvgBitRateIe packs ie and sets *written, returning 1 on success and 0 on
@@ -3333,7 +3333,7 @@ uint32_t TarnPackRoutingParameter(const TarnRoutingParameter *value, uint8_t *bu
 uint32_t TarnUnpackRoutingParameter(TarnRoutingParameter *value, uint32_t length,
                                     const uint8_t *buffer, uint32_t available, uint32_t *consumed);
 
-/* TarnIsRoutingParameterValid returns 1 if *value is 0 to 1023, and 0 otherwise. */
+/* TarnIsRoutingParameterValid returns 1 if *value is at most 1023, and 0 otherwise. */
 uint32_t TarnIsRoutingParameterValid(const TarnRoutingParameter *value);
 
 /* TarnPackRoutingParameterIe packs ie and sets *written, returning 1 on success and 0 on
@@ -3475,7 +3475,7 @@ uint32_t TarnIsDataVolReportingValid(const TarnDataVolReporting *value);
 /* ---- NasMsg, tag 7 ------------------------------------------------------------------------------
  * NAS message, passed through (NAS-PDU).
  *
- * Byte string, 1 to 4095 bytes; 7 to 4101 bytes on the wire with its header. */
+ * A byte string of 1 to 4095 bytes; 7 to 4101 bytes on the wire with its header. */
 
 typedef struct TarnNasMsg {
     uint32_t length;
@@ -3517,7 +3517,7 @@ uint32_t TarnIsNasMsgIeValid(const void *container, const TarnNasMsgIe *ie);
 /* ---- IntProtKey, tag 13 -------------------------------------------------------------------------
  * Integrity protection key (IK).
  *
- * Byte string, 16 bytes; 22 bytes on the wire with its header. */
+ * A byte string of 16 bytes; 22 bytes on the wire with its header. */
 
 typedef struct TarnIntProtKey {
     uint32_t length;
@@ -3559,7 +3559,7 @@ uint32_t TarnIsIntProtKeyIeValid(const void *container, const TarnIntProtKeyIe *
 /* ---- EncryptKey, tag 16 -------------------------------------------------------------------------
  * Encryption key (CK).
  *
- * Byte string, 16 bytes; 22 bytes on the wire with its header. */
+ * A byte string of 16 bytes; 22 bytes on the wire with its header. */
 
 typedef struct TarnEncryptKey {
     uint32_t length;
@@ -3601,7 +3601,7 @@ uint32_t TarnIsEncryptKeyIeValid(const void *container, const TarnEncryptKeyIe *
 /* ---- TempUeIdValue, tag 79 ----------------------------------------------------------------------
  * Temporary UE identity (TMSI or P-TMSI).
  *
- * Byte string, 4 bytes; 10 bytes on the wire with its header. */
+ * A byte string of 4 bytes; 10 bytes on the wire with its header. */
 
 typedef struct TarnTempUeIdValue {
     uint32_t length;
@@ -3644,7 +3644,7 @@ uint32_t TarnIsTempUeIdValueIeValid(const void *container, const TarnTempUeIdVal
 /* ---- MasterKey, tag 85 --------------------------------------------------------------------------
  * SRTP master key.
  *
- * Byte string, 0 to 16 bytes; 6 to 22 bytes on the wire with its header. */
+ * A byte string of 0 to 16 bytes; 6 to 22 bytes on the wire with its header. */
 
 typedef struct TarnMasterKey {
     uint32_t length;
@@ -3669,7 +3669,7 @@ uint32_t TarnPackMasterKey(const TarnMasterKey *value, uint8_t *buffer, uint32_t
 uint32_t TarnUnpackMasterKey(TarnMasterKey *value, uint32_t length, const uint8_t *buffer,
                              uint32_t available, uint32_t *consumed);
 
-/* TarnIsMasterKeyValid returns 1 if the length is 0 to 16, and 0 otherwise. */
+/* TarnIsMasterKeyValid returns 1 if the length is at most 16, and 0 otherwise. */
 uint32_t TarnIsMasterKeyValid(const TarnMasterKey *value);
 
 /* TarnPackMasterKeyIe packs ie and sets *written, returning 1 on success and 0 on failure. */
@@ -3686,7 +3686,7 @@ uint32_t TarnIsMasterKeyIeValid(const void *container, const TarnMasterKeyIe *ie
 /* ---- MasterSalt, tag 86 -------------------------------------------------------------------------
  * SRTP master salt.
  *
- * Byte string, 0 to 14 bytes; 6 to 20 bytes on the wire with its header. */
+ * A byte string of 0 to 14 bytes; 6 to 20 bytes on the wire with its header. */
 
 typedef struct TarnMasterSalt {
     uint32_t length;
@@ -3711,7 +3711,7 @@ uint32_t TarnPackMasterSalt(const TarnMasterSalt *value, uint8_t *buffer, uint32
 uint32_t TarnUnpackMasterSalt(TarnMasterSalt *value, uint32_t length, const uint8_t *buffer,
                               uint32_t available, uint32_t *consumed);
 
-/* TarnIsMasterSaltValid returns 1 if the length is 0 to 14, and 0 otherwise. */
+/* TarnIsMasterSaltValid returns 1 if the length is at most 14, and 0 otherwise. */
 uint32_t TarnIsMasterSaltValid(const TarnMasterSalt *value);
 
 /* TarnPackMasterSaltIe packs ie and sets *written, returning 1 on success and 0 on failure. */
@@ -3728,7 +3728,7 @@ uint32_t TarnIsMasterSaltIeValid(const void *container, const TarnMasterSaltIe *
 /* ---- NasUeId, tag 92 ----------------------------------------------------------------------------
  * Permanent NAS UE identity.
  *
- * Byte string, 3 to 8 bytes; 9 to 14 bytes on the wire with its header. */
+ * A byte string of 3 to 8 bytes; 9 to 14 bytes on the wire with its header. */
 
 typedef struct TarnNasUeId {
     uint32_t length;
@@ -3770,7 +3770,7 @@ uint32_t TarnIsNasUeIdIeValid(const void *container, const TarnNasUeIdIe *ie);
 /* ---- PLMNId, tag 108 ----------------------------------------------------------------------------
  * PLMN identity.
  *
- * Byte string, 3 bytes; 9 bytes on the wire with its header. */
+ * A byte string of 3 bytes; 9 bytes on the wire with its header. */
 
 typedef struct TarnPLMNId {
     uint32_t length;
@@ -3812,7 +3812,7 @@ uint32_t TarnIsPLMNIdIeValid(const void *container, const TarnPLMNIdIe *ie);
 /* ---- LAC, tag 109 -------------------------------------------------------------------------------
  * Location area code (LAC), a 2-byte string and not a number.
  *
- * Byte string, 2 bytes; 8 bytes on the wire with its header. */
+ * A byte string of 2 bytes; 8 bytes on the wire with its header. */
 
 typedef struct TarnLAC {
     uint32_t length;
@@ -3852,7 +3852,7 @@ uint32_t TarnIsLACIeValid(const void *container, const TarnLACIe *ie);
 /* ---- CI, tag 113 --------------------------------------------------------------------------------
  * Cell identity (CI), a 2-byte string and not a number.
  *
- * Byte string, 2 bytes; 8 bytes on the wire with its header. */
+ * A byte string of 2 bytes; 8 bytes on the wire with its header. */
 
 typedef struct TarnCI {
     uint32_t length;
@@ -3892,7 +3892,7 @@ uint32_t TarnIsCIIeValid(const void *container, const TarnCIIe *ie);
 /* ---- GsmClassmark2, tag 114 ---------------------------------------------------------------------
  * GSM mobile station classmark 2.
  *
- * Byte string, 0 to 5 bytes; 6 to 11 bytes on the wire with its header. */
+ * A byte string of 0 to 5 bytes; 6 to 11 bytes on the wire with its header. */
 
 typedef struct TarnGsmClassmark2 {
     uint32_t length;
@@ -3917,7 +3917,7 @@ uint32_t TarnPackGsmClassmark2(const TarnGsmClassmark2 *value, uint8_t *buffer, 
 uint32_t TarnUnpackGsmClassmark2(TarnGsmClassmark2 *value, uint32_t length, const uint8_t *buffer,
                                  uint32_t available, uint32_t *consumed);
 
-/* TarnIsGsmClassmark2Valid returns 1 if the length is 0 to 5, and 0 otherwise. */
+/* TarnIsGsmClassmark2Valid returns 1 if the length is at most 5, and 0 otherwise. */
 uint32_t TarnIsGsmClassmark2Valid(const TarnGsmClassmark2 *value);
 
 /* TarnPackGsmClassmark2Ie packs ie and sets *written, returning 1 on success and 0 on failure. */
@@ -3935,7 +3935,7 @@ uint32_t TarnIsGsmClassmark2IeValid(const void *container, const TarnGsmClassmar
 /* ---- GsmClassmark3, tag 115 ---------------------------------------------------------------------
  * GSM mobile station classmark 3.
  *
- * Byte string, 1 to 32 bytes; 7 to 38 bytes on the wire with its header. */
+ * A byte string of 1 to 32 bytes; 7 to 38 bytes on the wire with its header. */
 
 typedef struct TarnGsmClassmark3 {
     uint32_t length;
@@ -3978,7 +3978,7 @@ uint32_t TarnIsGsmClassmark3IeValid(const void *container, const TarnGsmClassmar
 /* ---- RrcContainer, tag 117 ----------------------------------------------------------------------
  * RRC container, passed through.
  *
- * Byte string, 0 to 2000 bytes; 6 to 2006 bytes on the wire with its header. */
+ * A byte string of 0 to 2000 bytes; 6 to 2006 bytes on the wire with its header. */
 
 typedef struct TarnRrcContainer {
     uint32_t length;
@@ -4003,7 +4003,7 @@ uint32_t TarnPackRrcContainer(const TarnRrcContainer *value, uint8_t *buffer, ui
 uint32_t TarnUnpackRrcContainer(TarnRrcContainer *value, uint32_t length, const uint8_t *buffer,
                                 uint32_t available, uint32_t *consumed);
 
-/* TarnIsRrcContainerValid returns 1 if the length is 0 to 2000, and 0 otherwise. */
+/* TarnIsRrcContainerValid returns 1 if the length is at most 2000, and 0 otherwise. */
 uint32_t TarnIsRrcContainerValid(const TarnRrcContainer *value);
 
 /* TarnPackRrcContainerIe packs ie and sets *written, returning 1 on success and 0 on failure. */
@@ -4021,7 +4021,7 @@ uint32_t TarnIsRrcContainerIeValid(const void *container, const TarnRrcContainer
 /* ---- L3Information, tag 120 ---------------------------------------------------------------------
  * Layer 3 information, passed through.
  *
- * Byte string, 0 to 255 bytes; 6 to 261 bytes on the wire with its header. */
+ * A byte string of 0 to 255 bytes; 6 to 261 bytes on the wire with its header. */
 
 typedef struct TarnL3Information {
     uint32_t length;
@@ -4046,7 +4046,7 @@ uint32_t TarnPackL3Information(const TarnL3Information *value, uint8_t *buffer, 
 uint32_t TarnUnpackL3Information(TarnL3Information *value, uint32_t length, const uint8_t *buffer,
                                  uint32_t available, uint32_t *consumed);
 
-/* TarnIsL3InformationValid returns 1 if the length is 0 to 255, and 0 otherwise. */
+/* TarnIsL3InformationValid returns 1 if the length is at most 255, and 0 otherwise. */
 uint32_t TarnIsL3InformationValid(const TarnL3Information *value);
 
 /* TarnPackL3InformationIe packs ie and sets *written, returning 1 on success and 0 on failure. */
@@ -4064,7 +4064,7 @@ uint32_t TarnIsL3InformationIeValid(const void *container, const TarnL3Informati
 /* ---- OldBssToNewBssInfo, tag 159 ----------------------------------------------------------------
  * Old BSS to new BSS information, passed through.
  *
- * Byte string, 0 to 255 bytes; 6 to 261 bytes on the wire with its header. */
+ * A byte string of 0 to 255 bytes; 6 to 261 bytes on the wire with its header. */
 
 typedef struct TarnOldBssToNewBssInfo {
     uint32_t length;
@@ -4090,7 +4090,7 @@ uint32_t TarnUnpackOldBssToNewBssInfo(TarnOldBssToNewBssInfo *value, uint32_t le
                                       const uint8_t *buffer, uint32_t available,
                                       uint32_t *consumed);
 
-/* TarnIsOldBssToNewBssInfoValid returns 1 if the length is 0 to 255, and 0 otherwise. */
+/* TarnIsOldBssToNewBssInfoValid returns 1 if the length is at most 255, and 0 otherwise. */
 uint32_t TarnIsOldBssToNewBssInfoValid(const TarnOldBssToNewBssInfo *value);
 
 /* TarnPackOldBssToNewBssInfoIe packs ie and sets *written, returning 1 on success and 0 on
@@ -4111,7 +4111,7 @@ uint32_t TarnIsOldBssToNewBssInfoIeValid(const void *container, const TarnOldBss
 /* ---- Imsi, tag 169 ------------------------------------------------------------------------------
  * Subscriber identity (IMSI), 16 opaque bytes.
  *
- * Byte string, 16 bytes; 22 bytes on the wire with its header. */
+ * A byte string of 16 bytes; 22 bytes on the wire with its header. */
 
 typedef struct TarnImsi {
     uint32_t length;
@@ -4155,7 +4155,7 @@ uint32_t TarnIsImsiIeValid(const void *container, const TarnImsiIe *ie);
 /* ---- IntProtInfo, tag 11 ------------------------------------------------------------------------
  * Integrity protection information: algorithm and key.
  *
- * Record of IntProtAlgo (tag 12), IntProtKey (tag 13); 36 bytes on the wire with its header. */
+ * A record of IntProtAlgo (tag 12), IntProtKey (tag 13); 36 bytes on the wire with its header. */
 
 typedef struct TarnIntProtInfo {
     TarnIntProtAlgo IntProtAlgo;
@@ -4167,7 +4167,7 @@ typedef struct TarnIntProtInfoIe {
     TarnIntProtInfo value;
 } TarnIntProtInfoIe;
 
-/* TarnSizeOfIntProtInfo returns 30. */
+/* TarnSizeOfIntProtInfo returns the value's bytes on the wire. */
 uint32_t TarnSizeOfIntProtInfo(const TarnIntProtInfo *value);
 
 /* TarnPackIntProtInfo packs *value and sets *written, returning 1 on success and 0 if it does not
@@ -4197,7 +4197,7 @@ uint32_t TarnIsIntProtInfoIeValid(const void *container, const TarnIntProtInfoIe
 /* ---- EncryptAlgos, tag 15 -----------------------------------------------------------------------
  * Permitted encryption algorithms.
  *
- * List of 1 to 2 EncryptAlgo, each under tag 17; 14 to 22 bytes on the wire with its header. */
+ * A list of 1 to 2 EncryptAlgo, each under tag 17; 14 to 22 bytes on the wire with its header. */
 
 typedef struct TarnEncryptAlgos {
     uint32_t count;
@@ -4241,7 +4241,7 @@ uint32_t TarnIsEncryptAlgosIeValid(const void *container, const TarnEncryptAlgos
 /* ---- EncryptInfo, tag 14 ------------------------------------------------------------------------
  * Encryption information: permitted algorithms and key.
  *
- * Record of EncryptAlgos (tag 15), EncryptKey (tag 16); 42 to 50 bytes on the wire with its
+ * A record of EncryptAlgos (tag 15), EncryptKey (tag 16); 42 to 50 bytes on the wire with its
  * header. */
 
 typedef struct TarnEncryptInfo {
@@ -4284,7 +4284,7 @@ uint32_t TarnIsEncryptInfoIeValid(const void *container, const TarnEncryptInfoIe
 /* ---- UserPlaneInfo, tag 32 ----------------------------------------------------------------------
  * User plane information: Iu user plane mode and its versions.
  *
- * Record of UserPlaneMode (tag 20), UserPlaneModeVersions (tag 39); 22 bytes on the wire with its
+ * A record of UserPlaneMode (tag 20), UserPlaneModeVersions (tag 39); 22 bytes on the wire with its
  * header. */
 
 typedef struct TarnUserPlaneInfo {
@@ -4328,7 +4328,7 @@ uint32_t TarnIsUserPlaneInfoIeValid(const void *container, const TarnUserPlaneIn
 /* ---- BitErrRatio, tag 36 ------------------------------------------------------------------------
  * Bit error ratio: mantissa times ten to the minus exponent.
  *
- * Record of Mantissa (tag 37), Exponent (tag 38); 20 bytes on the wire with its header. */
+ * A record of Mantissa (tag 37), Exponent (tag 38); 20 bytes on the wire with its header. */
 
 typedef struct TarnBitErrRatio {
     TarnMantissa Mantissa;
@@ -4370,7 +4370,7 @@ uint32_t TarnIsBitErrRatioIeValid(const void *container, const TarnBitErrRatioIe
 /* ---- AllocRetPriority, tag 50 -------------------------------------------------------------------
  * Allocation/retention priority.
  *
- * Record of PriorityLevel (tag 51), PreemptionCapability (tag 52), PreemptionVulnerability (tag
+ * A record of PriorityLevel (tag 51), PreemptionCapability (tag 52), PreemptionVulnerability (tag
  * 53), QueuingAllowed (tag 54); 37 bytes on the wire with its header. */
 
 typedef struct TarnAllocRetPriority {
@@ -4418,7 +4418,8 @@ uint32_t TarnIsAllocRetPriorityIeValid(const void *container, const TarnAllocRet
 /* ---- TempUeId, tag 77 ---------------------------------------------------------------------------
  * Temporary UE identity: type and value.
  *
- * Record of TempUeIdType (tag 78), TempUeIdValue (tag 79); 24 bytes on the wire with its header. */
+ * A record of TempUeIdType (tag 78), TempUeIdValue (tag 79); 24 bytes on the wire with its
+ * header. */
 
 typedef struct TarnTempUeId {
     TarnTempUeIdType TempUeIdType;
@@ -4430,7 +4431,7 @@ typedef struct TarnTempUeIdIe {
     TarnTempUeId value;
 } TarnTempUeIdIe;
 
-/* TarnSizeOfTempUeId returns 18. */
+/* TarnSizeOfTempUeId returns the value's bytes on the wire. */
 uint32_t TarnSizeOfTempUeId(const TarnTempUeId *value);
 
 /* TarnPackTempUeId packs *value and sets *written, returning 1 on success and 0 if it does not fit
@@ -4460,7 +4461,8 @@ uint32_t TarnIsTempUeIdIeValid(const void *container, const TarnTempUeIdIe *ie);
 /* ---- RtpSecurityInfo, tag 84 --------------------------------------------------------------------
  * SRTP keying material: master key and master salt.
  *
- * Record of MasterKey (tag 85), MasterSalt (tag 86); 18 to 48 bytes on the wire with its header. */
+ * A record of MasterKey (tag 85), MasterSalt (tag 86); 18 to 48 bytes on the wire with its
+ * header. */
 
 typedef struct TarnRtpSecurityInfo {
     TarnMasterKey MasterKey;
@@ -4503,7 +4505,7 @@ uint32_t TarnIsRtpSecurityInfoIeValid(const void *container, const TarnRtpSecuri
 /* ---- LAI, tag 107 -------------------------------------------------------------------------------
  * Location area identity (LAI): PLMN and location area code.
  *
- * Record of PLMNId (tag 108), LAC (tag 109); 23 bytes on the wire with its header. */
+ * A record of PLMNId (tag 108), LAC (tag 109); 23 bytes on the wire with its header. */
 
 typedef struct TarnLAI {
     TarnPLMNId PLMNId;
@@ -4515,7 +4517,7 @@ typedef struct TarnLAIIe {
     TarnLAI value;
 } TarnLAIIe;
 
-/* TarnSizeOfLAI returns 17. */
+/* TarnSizeOfLAI returns the value's bytes on the wire. */
 uint32_t TarnSizeOfLAI(const TarnLAI *value);
 
 /* TarnPackLAI packs *value and sets *written, returning 1 on success and 0 if it does not fit or a
@@ -4543,7 +4545,8 @@ uint32_t TarnIsLAIIeValid(const void *container, const TarnLAIIe *ie);
 /* ---- TargetCGI, tag 112 -------------------------------------------------------------------------
  * Cell global identity (CGI) of the target cell.
  *
- * Record of PLMNId (tag 108), LAC (tag 109), CI (tag 113); 31 bytes on the wire with its header. */
+ * A record of PLMNId (tag 108), LAC (tag 109), CI (tag 113); 31 bytes on the wire with its
+ * header. */
 
 typedef struct TarnTargetCGI {
     TarnPLMNId PLMNId;
@@ -4556,7 +4559,7 @@ typedef struct TarnTargetCGIIe {
     TarnTargetCGI value;
 } TarnTargetCGIIe;
 
-/* TarnSizeOfTargetCGI returns 25. */
+/* TarnSizeOfTargetCGI returns the value's bytes on the wire. */
 uint32_t TarnSizeOfTargetCGI(const TarnTargetCGI *value);
 
 /* TarnPackTargetCGI packs *value and sets *written, returning 1 on success and 0 if it does not fit
@@ -4586,7 +4589,7 @@ uint32_t TarnIsTargetCGIIeValid(const void *container, const TarnTargetCGIIe *ie
 /* ---- AlcapLinkCharacteristics, tag 162 ----------------------------------------------------------
  * ALCAP link characteristics of an AAL2 link.
  *
- * Record of CpsSduMaxBitRate (tag 163), CpsSduMaxSize (tag 164), CpsSduAvgBitRate (tag 165),
+ * A record of CpsSduMaxBitRate (tag 163), CpsSduMaxSize (tag 164), CpsSduAvgBitRate (tag 165),
  * CpsSduAvgSize (tag 166); 46 bytes on the wire with its header. */
 
 typedef struct TarnAlcapLinkCharacteristics {
@@ -4638,7 +4641,7 @@ uint32_t TarnIsAlcapLinkCharacteristicsIeValid(const void *container,
 /* ---- Idnns, tag 177 -----------------------------------------------------------------------------
  * Intra-domain NAS node selector (IDNNS).
  *
- * Record of RoutingBasis (tag 175), RoutingParameter (tag 176); 22 bytes on the wire with its
+ * A record of RoutingBasis (tag 175), RoutingParameter (tag 176); 22 bytes on the wire with its
  * header. */
 
 typedef struct TarnIdnns {
@@ -4681,7 +4684,7 @@ uint32_t TarnIsIdnnsIeValid(const void *container, const TarnIdnnsIe *ie);
 /* ---- RabSetupFailedInfo, item tag 64 ------------------------------------------------------------
  * One RAB that could not be set up, and why.
  *
- * Record of RabId (tag 23), RabSetupFailCause (tag 65); 21 bytes on the wire with its header. It
+ * A record of RabId (tag 23), RabSetupFailCause (tag 65); 21 bytes on the wire with its header. It
  * travels only as an item of RabSetupFailedList. */
 
 typedef struct TarnRabSetupFailedInfo {
@@ -4709,7 +4712,7 @@ uint32_t TarnIsRabSetupFailedInfoValid(const TarnRabSetupFailedInfo *value);
 /* ---- RabReleaseInfo, item tag 67 ----------------------------------------------------------------
  * One RAB to release, and why.
  *
- * Record of RabId (tag 23), RabReleaseCause (tag 68); 21 bytes on the wire with its header. It
+ * A record of RabId (tag 23), RabReleaseCause (tag 68); 21 bytes on the wire with its header. It
  * travels only as an item of RabReleaseList. */
 
 typedef struct TarnRabReleaseInfo {
@@ -4736,7 +4739,7 @@ uint32_t TarnIsRabReleaseInfoValid(const TarnRabReleaseInfo *value);
 /* ---- RabIdList, tag 167 -------------------------------------------------------------------------
  * RAB identifiers; the items carry the tag of the RabId IE itself.
  *
- * List of 1 to 3 RabId, each under tag 23; 13 to 27 bytes on the wire with its header. */
+ * A list of 1 to 3 RabId, each under tag 23; 13 to 27 bytes on the wire with its header. */
 
 typedef struct TarnRabIdList {
     uint32_t count;
@@ -4779,8 +4782,8 @@ uint32_t TarnIsRabIdListIeValid(const void *container, const TarnRabIdListIe *ie
 /* ---- HandoutRabReleaseInfo, item tag 122 --------------------------------------------------------
  * The RABs of one core network domain to release at a handout.
  *
- * Record of CnDomainId (tag 6), RabIdList (tag 167); 27 to 41 bytes on the wire with its header. It
- * travels only as an item of HandoutRabReleaseList. */
+ * A record of CnDomainId (tag 6), RabIdList (tag 167); 27 to 41 bytes on the wire with its header.
+ * It travels only as an item of HandoutRabReleaseList. */
 
 typedef struct TarnHandoutRabReleaseInfo {
     TarnCnDomainId CnDomainId;
@@ -4807,7 +4810,7 @@ uint32_t TarnIsHandoutRabReleaseInfoValid(const TarnHandoutRabReleaseInfo *value
 /* ---- IpAddress, tag 60 --------------------------------------------------------------------------
  * IPv4 address, four one-byte items, most significant first.
  *
- * List of 4 IpAddressByte, each under tag 61; 34 bytes on the wire with its header. */
+ * A list of 4 IpAddressByte, each under tag 61; 34 bytes on the wire with its header. */
 
 typedef struct TarnIpAddress {
     uint32_t count;
@@ -4849,7 +4852,7 @@ uint32_t TarnIsIpAddressIeValid(const void *container, const TarnIpAddressIe *ie
 /* ---- IapTransLayerInfo, no tag ------------------------------------------------------------------
  * Transport layer address and port.
  *
- * Record of IpAddress (tag 60), UdpPort (tag 62); 42 bytes on the wire. It has no tag: no IE,
+ * A record of IpAddress (tag 60), UdpPort (tag 62); 42 bytes on the wire. It has no tag: no IE,
  * message or other type carries it. */
 
 typedef struct TarnIapTransLayerInfo {
@@ -4857,7 +4860,7 @@ typedef struct TarnIapTransLayerInfo {
     TarnUdpPort UdpPort;
 } TarnIapTransLayerInfo;
 
-/* TarnSizeOfIapTransLayerInfo returns 42. */
+/* TarnSizeOfIapTransLayerInfo returns the value's bytes on the wire. */
 uint32_t TarnSizeOfIapTransLayerInfo(const TarnIapTransLayerInfo *value);
 
 /* TarnPackIapTransLayerInfo packs *value and sets *written, returning 1 on success and 0 if it does
@@ -4876,7 +4879,7 @@ uint32_t TarnIsIapTransLayerInfoValid(const TarnIapTransLayerInfo *value);
 /* ---- BitRates, tag 30 ---------------------------------------------------------------------------
  * Bit rates, bit/s, one for each direction.
  *
- * List of 0 to 2 BitRate, each under tag 31; 6 to 26 bytes on the wire with its header. */
+ * A list of 0 to 2 BitRate, each under tag 31; 6 to 26 bytes on the wire with its header. */
 
 typedef struct TarnBitRates {
     uint32_t count;
@@ -4901,7 +4904,8 @@ uint32_t TarnPackBitRates(const TarnBitRates *value, uint8_t *buffer, uint32_t a
 uint32_t TarnUnpackBitRates(TarnBitRates *value, uint32_t length, const uint8_t *buffer,
                             uint32_t available, uint32_t *consumed);
 
-/* TarnIsBitRatesValid returns 1 if the count is 0 to 2 and every item is valid, and 0 otherwise. */
+/* TarnIsBitRatesValid returns 1 if the count is at most 2 and every item is valid, and 0
+ * otherwise. */
 uint32_t TarnIsBitRatesValid(const TarnBitRates *value);
 
 /* TarnPackBitRatesIe packs ie and sets *written, returning 1 on success and 0 on failure. */
@@ -4918,7 +4922,7 @@ uint32_t TarnIsBitRatesIeValid(const void *container, const TarnBitRatesIe *ie);
 /* ---- PdpTypeInfoList, tag 45 --------------------------------------------------------------------
  * PDP type information.
  *
- * List of 0 to 2 PdpTypeInfo, each under tag 46; 6 to 22 bytes on the wire with its header. */
+ * A list of 0 to 2 PdpTypeInfo, each under tag 46; 6 to 22 bytes on the wire with its header. */
 
 typedef struct TarnPdpTypeInfoList {
     uint32_t count;
@@ -4943,7 +4947,7 @@ uint32_t TarnPackPdpTypeInfoList(const TarnPdpTypeInfoList *value, uint8_t *buff
 uint32_t TarnUnpackPdpTypeInfoList(TarnPdpTypeInfoList *value, uint32_t length,
                                    const uint8_t *buffer, uint32_t available, uint32_t *consumed);
 
-/* TarnIsPdpTypeInfoListValid returns 1 if the count is 0 to 2 and every item is valid, and 0
+/* TarnIsPdpTypeInfoListValid returns 1 if the count is at most 2 and every item is valid, and 0
  * otherwise. */
 uint32_t TarnIsPdpTypeInfoListValid(const TarnPdpTypeInfoList *value);
 
@@ -4962,7 +4966,7 @@ uint32_t TarnIsPdpTypeInfoListIeValid(const void *container, const TarnPdpTypeIn
 /* ---- RabSetupFailedList, tag 63 -----------------------------------------------------------------
  * RABs that could not be set up.
  *
- * List of 0 to 3 RabSetupFailedInfo, each under tag 64; 6 to 69 bytes on the wire with its
+ * A list of 0 to 3 RabSetupFailedInfo, each under tag 64; 6 to 69 bytes on the wire with its
  * header. */
 
 typedef struct TarnRabSetupFailedList {
@@ -4989,7 +4993,7 @@ uint32_t TarnUnpackRabSetupFailedList(TarnRabSetupFailedList *value, uint32_t le
                                       const uint8_t *buffer, uint32_t available,
                                       uint32_t *consumed);
 
-/* TarnIsRabSetupFailedListValid returns 1 if the count is 0 to 3 and every item is valid, and 0
+/* TarnIsRabSetupFailedListValid returns 1 if the count is at most 3 and every item is valid, and 0
  * otherwise. */
 uint32_t TarnIsRabSetupFailedListValid(const TarnRabSetupFailedList *value);
 
@@ -5010,7 +5014,7 @@ uint32_t TarnIsRabSetupFailedListIeValid(const void *container, const TarnRabSet
 /* ---- RabReleaseList, tag 66 ---------------------------------------------------------------------
  * RABs to release.
  *
- * List of 0 to 3 RabReleaseInfo, each under tag 67; 6 to 69 bytes on the wire with its header. */
+ * A list of 0 to 3 RabReleaseInfo, each under tag 67; 6 to 69 bytes on the wire with its header. */
 
 typedef struct TarnRabReleaseList {
     uint32_t count;
@@ -5035,7 +5039,7 @@ uint32_t TarnPackRabReleaseList(const TarnRabReleaseList *value, uint8_t *buffer
 uint32_t TarnUnpackRabReleaseList(TarnRabReleaseList *value, uint32_t length, const uint8_t *buffer,
                                   uint32_t available, uint32_t *consumed);
 
-/* TarnIsRabReleaseListValid returns 1 if the count is 0 to 3 and every item is valid, and 0
+/* TarnIsRabReleaseListValid returns 1 if the count is at most 3 and every item is valid, and 0
  * otherwise. */
 uint32_t TarnIsRabReleaseListValid(const TarnRabReleaseList *value);
 
@@ -5054,7 +5058,7 @@ uint32_t TarnIsRabReleaseListIeValid(const void *container, const TarnRabRelease
 /* ---- HandoutRabReleaseList, tag 121 -------------------------------------------------------------
  * RABs to release at a handout, by core network domain.
  *
- * List of 1 to 2 HandoutRabReleaseInfo, each under tag 122; 33 to 88 bytes on the wire with its
+ * A list of 1 to 2 HandoutRabReleaseInfo, each under tag 122; 33 to 88 bytes on the wire with its
  * header. */
 
 typedef struct TarnHandoutRabReleaseList {

@@ -132,7 +132,7 @@ struct Catalogue {
     Condition conditions[always];
 };
 
-extern const Catalogue catalogue;
+extern const Catalogue catalogue; // constexpr where it is defined
 
 inline const Type &type_of(TypeId id) {
     return catalogue.types[id];

@@ -1,0 +1,69 @@
+/* The host for ordinary Linux programs: what such a program may ask of it.
+ *
+ * Linking libtarn_host gives libtarn its memory, its lists and its reports. A program that is
+ * content with the defaults needs nothing from this header. */
+#ifndef TARN_HOST_H
+#define TARN_HOST_H
+
+#include <stdint.h>
+#include <stdio.h>
+
+#pragma GCC visibility push(default)
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- Live blocks ----------------------------------------------------------------------------- */
+
+/* Returns how many blocks, of all threads, are allocated and not yet freed. The number is exact
+ * while no other thread allocates or frees. Meant for tests and for the end of a program: it takes
+ * a lock and visits every thread's counters. */
+uint64_t tarnHostLiveBlocks(void);
+
+/* Prints the number of live blocks and the bytes that were asked for them, as one line. */
+void tarnHostReportLiveBlocks(FILE *stream);
+
+/* ---- Fatal errors ---------------------------------------------------------------------------- */
+
+/* Told of a programming error: `text` says what is wrong and is never empty; `module` and `line`
+ * name the place that noticed. The handler may throw a C++ exception, jump out with longjmp or end
+ * the program. Should it return, the call that reported fails. */
+typedef void (*TarnHostFatalErrorHandler)(void *context, const char *text, const char *module,
+                                          uint32_t line);
+
+/* A handler with the context that it is called with. */
+typedef struct TarnHostFatalErrorReport {
+    TarnHostFatalErrorHandler handler;
+    void *context;
+} TarnHostFatalErrorReport;
+
+/* Has fatal errors of all threads told to `handler` from now on; null restores the default, which
+ * prints the error to stderr and aborts. Returns what was set before (a null handler for the
+ * default), so that it can be put back. May be called from any thread at any time; a handler
+ * replaced while it runs finishes. */
+TarnHostFatalErrorReport tarnHostSetFatalErrorHandler(TarnHostFatalErrorHandler handler,
+                                                      void *context);
+
+/* ---- Debug tokens ---------------------------------------------------------------------------- */
+
+/* Told of a failed one-call Build or Get operation: `token` names the point of failure. */
+typedef void (*TarnHostDebugTokenHandler)(void *context, uint32_t token, uint32_t value);
+
+/* A handler with the context that it is called with. */
+typedef struct TarnHostDebugTokenReport {
+    TarnHostDebugTokenHandler handler;
+    void *context;
+} TarnHostDebugTokenReport;
+
+/* Has debug tokens of all threads told to `handler` from now on; null restores the default, which
+ * prints them to stderr. Returns what was set before (a null handler for the default). May be
+ * called from any thread at any time. */
+TarnHostDebugTokenReport tarnHostSetDebugTokenHandler(TarnHostDebugTokenHandler handler,
+                                                      void *context);
+
+#ifdef __cplusplus
+}
+#endif
+#pragma GCC visibility pop
+
+#endif

@@ -1,0 +1,38 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that are missing, as root or through sudo.
+#   scripts/packages.sh demo   what it takes to build the library and the tool
+#   scripts/packages.sh test   that, and all that the tests use
+#   scripts/packages.sh bench  that, and what the benchmarks compare with
+set -euo pipefail
+
+demo=(cmake ninja-build g++ libcli11-dev nlohmann-json3-dev)
+tests=(clang clang-format clang-tidy libclang-rt-dev googletest binutils git python3
+    abigail-tools gcovr
+    g++-arm-linux-gnueabihf g++-s390x-linux-gnu qemu-user)
+bench=(libbenchmark-dev nanopb libnanopb-dev libprotobuf-c-dev protobuf-c-compiler
+    protobuf-compiler valgrind python3)
+
+case "${1:-demo}" in
+demo) wanted=("${demo[@]}") ;;
+test) wanted=("${demo[@]}" "${tests[@]}") ;;
+bench) wanted=("${demo[@]}" "${tests[@]}" "${bench[@]}") ;;
+*)
+    sed -n '2,5s/^# \{0,1\}//p' "$0"
+    exit 2
+    ;;
+esac
+
+missing=()
+for package in "${wanted[@]}"; do
+    if ! dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed'; then
+        missing+=("$package")
+    fi
+done
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+as_root=()
+[ "$(id -u)" -eq 0 ] || as_root=(sudo)
+echo "installing: ${missing[*]}"
+export DEBIAN_FRONTEND=noninteractive
+"${as_root[@]}" apt-get update -q
+"${as_root[@]}" apt-get install -q -y --no-install-recommends "${missing[@]}"

@@ -1,0 +1,106 @@
+// header_writer [--check] [root]
+//
+// Writes the public header, the list of exported functions and the reference tables beneath `root`
+// (the current directory, when left out) from the rows of src/catalogue. With --check it writes
+// nothing: it compares, names each file that differs, and fails if there is one.
+
+#include "pages.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <stdexcept>
+
+namespace {
+
+using header_writer::Page;
+
+struct File {
+    std::string path;
+    std::string content;
+};
+
+std::string exportList(std::vector<std::string> names) {
+    std::sort(names.begin(), names.end());
+    if (std::adjacent_find(names.begin(), names.end()) != names.end())
+        throw std::runtime_error("a function stands twice in the headers");
+    std::string text;
+    for (const std::string &name : names)
+        text += name + "\n";
+    return text;
+}
+
+std::vector<File> allFiles() {
+    const header_writer::Catalogue catalogue = header_writer::readCatalogue();
+    const std::vector<std::pair<std::string, Page>> headers = {
+        {"include/tarn_if.h", header_writer::coreHeader()},
+        {"include/tarn_if_objects.h", header_writer::objectsHeader()},
+        {"include/tarn_if_primitive_ies.h", header_writer::primitiveHeader(catalogue)},
+        {"include/tarn_if_composite_ies.h", header_writer::compositeHeader(catalogue)},
+        {"include/tarn_if_messages.h", header_writer::messageHeader(catalogue)},
+    };
+    std::vector<File> files;
+    std::vector<std::string> functions;
+    for (const auto &[path, page] : headers) {
+        files.push_back({path, page.text()});
+        functions.insert(functions.end(), page.functions().begin(), page.functions().end());
+    }
+    files.push_back({"cmake/exports.txt", exportList(functions)});
+    files.push_back({"docs/reference.md", header_writer::referenceTables(catalogue)});
+    return files;
+}
+
+std::string contentOf(const std::filesystem::path &path) {
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+int check(const std::filesystem::path &root, const std::vector<File> &files) {
+    bool same = true;
+    for (const File &file : files) {
+        if (contentOf(root / file.path) == file.content)
+            continue;
+        same = false;
+        std::cerr << file.path << " differs from the rows in src/catalogue\n";
+    }
+    if (!same)
+        std::cerr << "to mend: cmake --build build --target headers\n";
+    return same ? 0 : 1;
+}
+
+int write(const std::filesystem::path &root, const std::vector<File> &files) {
+    for (const File &file : files) {
+        const std::filesystem::path path = root / file.path;
+        std::filesystem::create_directories(path.parent_path());
+        std::ofstream stream(path, std::ios::binary);
+        stream << file.content;
+        if (!stream.flush())
+            throw std::runtime_error("cannot write " + file.path);
+    }
+    return 0;
+}
+
+int run(std::vector<std::string> arguments) {
+    const bool checking = !arguments.empty() && arguments.front() == "--check";
+    if (checking)
+        arguments.erase(arguments.begin());
+    if (arguments.size() > 1 || (!arguments.empty() && arguments.front().starts_with("-"))) {
+        std::cerr << "usage: header_writer [--check] [root]\n";
+        return 2;
+    }
+    const std::filesystem::path root = arguments.empty() ? "." : arguments.front();
+    return checking ? check(root, allFiles()) : write(root, allFiles());
+}
+
+} // namespace
+
+int main(int count, char **words) {
+    try {
+        return run({words + 1, words + count});
+    } catch (const std::exception &error) {
+        std::cerr << "header_writer: " << error.what() << "\n";
+        return 2;
+    }
+}

@@ -1,0 +1,83 @@
+#include "pages.h"
+#include "words.h"
+
+#include <algorithm>
+
+namespace header_writer {
+std::string presenceText(const Catalogue &catalogue, const Slot &slot) {
+    if (slot.presence == Presence::mandatory)
+        return "mandatory";
+    if (slot.presence == Presence::optional)
+        return "optional";
+    const std::string meaning = catalogue.condition(slot.condition).meaning;
+    return (slot.presence == Presence::repeated ? "one or more exactly if " : "exactly if ") +
+           meaning;
+}
+
+std::string kindText(const Slot &slot) {
+    if (slot.second)
+        return slot.child + " again, ";
+    return slot.composite ? "composite, " : "";
+}
+
+std::string slotTable(const Catalogue &catalogue, const std::vector<Slot> &slots) {
+    size_t widest = 0;
+    for (const Slot &slot : slots)
+        widest = std::max(widest, slot.member.size());
+    std::string table;
+    for (const Slot &slot : slots)
+        table += "  " + padded(slot.member, widest) + "  " +
+                 padded("tag " + std::to_string(catalogue.tagOf(slot)), 7) + "  " + kindText(slot) +
+                 presenceText(catalogue, slot) + "\n";
+    return table;
+}
+
+void addSlotMembers(std::vector<Member> &members, const std::vector<Slot> &slots) {
+    const std::vector<uint32_t> bits = presenceBits(slots);
+    const bool used = std::any_of(bits.begin(), bits.end(), [](uint32_t bit) { return bit != 0; });
+    members.push_back({"uint8_t presence", used ? "" : "no bit in use"});
+    for (size_t i = 0; i < slots.size(); ++i)
+        members.push_back(
+            {"Tarn" + slots[i].child + (slots[i].composite ? "Record " : " ") + slots[i].member,
+             bits[i] == 0 ? "" : bitText(bits[i])});
+}
+
+namespace {
+
+void writeValueOperations(Page &page, const std::string &child, const Parent &parent) {
+    // A message gets its MessageId when it is created.
+    const std::string what = child == "MessageId" ? "a further copy" : "a copy";
+    page.function("uint32_t", "TarnAppend" + child + "To" + parent.name,
+                  {parent.parameter, "const Tarn" + child + " *value"},
+                  "appends " + what + " of *value, returning 1 on success and 0 if invalid.");
+    page.function("uint32_t", "TarnExtract" + child + "From" + parent.name,
+                  {parent.parameter, "Tarn" + child + " *value"},
+                  "copies the next " + child +
+                      " to *value, returning 1 on success and 0 if there is none.");
+}
+
+void writeObjectOperations(Page &page, const std::string &child, const Parent &parent) {
+    const std::string &name = parent.childParameter;
+    page.function("uint32_t", "TarnAppend" + child + "IeTo" + parent.name,
+                  {parent.parameter, "Tarn" + child + "Ie *" + name},
+                  "appends " + name + " itself, unchecked, and takes it over, returning 1.");
+    page.function("uint32_t", "TarnExtract" + child + "IeFrom" + parent.name,
+                  {parent.parameter, "Tarn" + child + "Ie **" + name},
+                  "lends the next " + child + " in *" + name +
+                      ", returning 1 on success and 0, with *" + name + " null, if there is none.");
+}
+
+} // namespace
+
+void writeSlotOperations(Page &page, const std::vector<Slot> &slots, const Parent &parent) {
+    for (const Slot &slot : slots) {
+        if (slot.second)
+            continue;
+        if (slot.composite)
+            writeObjectOperations(page, slot.child, parent);
+        else
+            writeValueOperations(page, slot.child, parent);
+    }
+}
+
+} // namespace header_writer
