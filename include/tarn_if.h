@@ -26,7 +26,7 @@
  *
  *   TarnMsg *msg;
  *   if (TarnUnpackNewMsg(buffer, length, &msg)) {
- *       if (msg->messageId == 30)
+ *       if (msg->messageId == TarnHandoverDetectMsgId)
  *           TarnExtractSrntiFromHandoverDetectMsg(msg, &srnti);
  *       TarnDeleteMsg(msg);
  *   }

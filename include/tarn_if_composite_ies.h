@@ -2,7 +2,8 @@
  * tools/header_writer, then run `cmake --build build --target headers`. */
 
 /* The composite IEs: IEs whose value is other IEs, their children. For each composite IE C stand
- * here its IE object type TarnCIe, its record type TarnCRecord, and its operations.
+ * here its tag TarnCTag, its IE object type TarnCIe, its record type TarnCRecord, and its
+ * operations.
  *
  * A sequence has a fixed table of children, given in its comment in wire order with the mandatory
  * ones first. A list repeats one composite element.
@@ -109,6 +110,8 @@ extern "C" {
  *   UnSuccTransferAtRlc  tag 97   optional
  */
 
+enum { TarnRabDataInfoTag = 103 };
+
 typedef struct TarnRabDataInfoIe {
     TarnIe ie;
     VelDllHead children;
@@ -120,6 +123,8 @@ typedef struct TarnRabDataInfoRecord {
     TarnSuccTransferAtPsiw SuccTransferAtPsiw;
     TarnUnSuccTransferAtRlc UnSuccTransferAtRlc; /* 0x80 */
 } TarnRabDataInfoRecord;
+
+enum { TarnRabDataInfoHasUnSuccTransferAtRlc = 0x80 };
 
 /* TarnNewRabDataInfoIe returns a new RabDataInfo without children, owned by the caller. */
 TarnRabDataInfoIe *TarnNewRabDataInfoIe(void);
@@ -172,6 +177,8 @@ uint32_t TarnIsRabDataInfoIeValid(const TarnMsg *msg, const TarnRabDataInfoIe *i
  *   RabSubflowCombBitRate  tag 43   optional
  */
 
+enum { TarnSduFormatInfoParamsTag = 41 };
+
 typedef struct TarnSduFormatInfoParamsIe {
     TarnIe ie;
     VelDllHead children;
@@ -182,6 +189,11 @@ typedef struct TarnSduFormatInfoParamsRecord {
     TarnSduSize SduSize;                             /* 0x80 */
     TarnRabSubflowCombBitRate RabSubflowCombBitRate; /* 0x40 */
 } TarnSduFormatInfoParamsRecord;
+
+enum {
+    TarnSduFormatInfoParamsHasSduSize = 0x80,
+    TarnSduFormatInfoParamsHasRabSubflowCombBitRate = 0x40,
+};
 
 /* TarnNewSduFormatInfoParamsIe returns a new SduFormatInfoParams without children, owned by the
  * caller. */
@@ -234,6 +246,8 @@ uint32_t TarnIsSduFormatInfoParamsIeValid(const TarnMsg *msg, const TarnSduForma
  *   GtpTeid  tag 171  optional
  */
 
+enum { TarnRabSetupSuccessInfoTag = 58 };
+
 typedef struct TarnRabSetupSuccessInfoIe {
     TarnIe ie;
     VelDllHead children;
@@ -245,6 +259,11 @@ typedef struct TarnRabSetupSuccessInfoRecord {
     TarnUdpPort UdpPort; /* 0x80 */
     TarnGtpTeid GtpTeid; /* 0x40 */
 } TarnRabSetupSuccessInfoRecord;
+
+enum {
+    TarnRabSetupSuccessInfoHasUdpPort = 0x80,
+    TarnRabSetupSuccessInfoHasGtpTeid = 0x40,
+};
 
 /* TarnNewRabSetupSuccessInfoIe returns a new RabSetupSuccessInfo without children, owned by the
  * caller. */
@@ -310,6 +329,8 @@ uint32_t TarnIsRabSetupSuccessInfoIeValid(const TarnMsg *msg, const TarnRabSetup
  *   PsUserEncryptAlgo  tag 158  optional
  */
 
+enum { TarnModifiedSrncContainerTag = 116 };
+
 typedef struct TarnModifiedSrncContainerIe {
     TarnIe ie;
     VelDllHead children;
@@ -327,6 +348,15 @@ typedef struct TarnModifiedSrncContainerRecord {
     TarnCsUserEncryptAlgo CsUserEncryptAlgo; /* 0x08 */
     TarnPsUserEncryptAlgo PsUserEncryptAlgo; /* 0x04 */
 } TarnModifiedSrncContainerRecord;
+
+enum {
+    TarnModifiedSrncContainerHasIntProtAlgo = 0x80,
+    TarnModifiedSrncContainerHasIntProtKey = 0x40,
+    TarnModifiedSrncContainerHasEncryptAlgo = 0x20,
+    TarnModifiedSrncContainerHasEncryptKey = 0x10,
+    TarnModifiedSrncContainerHasCsUserEncryptAlgo = 0x08,
+    TarnModifiedSrncContainerHasPsUserEncryptAlgo = 0x04,
+};
 
 /* TarnNewModifiedSrncContainerIe returns a new ModifiedSrncContainer without children, owned by the
  * caller. */
@@ -450,6 +480,8 @@ uint32_t TarnIsModifiedSrncContainerIeValid(const TarnMsg *msg,
  *   GtpEchoPeriod  tag 172  optional
  */
 
+enum { TarnPsIuhGatewayInfoTag = 173 };
+
 typedef struct TarnPsIuhGatewayInfoIe {
     TarnIe ie;
     VelDllHead children;
@@ -463,6 +495,12 @@ typedef struct TarnPsIuhGatewayInfoRecord {
     TarnTos Tos;                     /* 0x40 */
     TarnGtpEchoPeriod GtpEchoPeriod; /* 0x20 */
 } TarnPsIuhGatewayInfoRecord;
+
+enum {
+    TarnPsIuhGatewayInfoHasUdpPort = 0x80,
+    TarnPsIuhGatewayInfoHasTos = 0x40,
+    TarnPsIuhGatewayInfoHasGtpEchoPeriod = 0x20,
+};
 
 /* TarnNewPsIuhGatewayInfoIe returns a new PsIuhGatewayInfo without children, owned by the
  * caller. */
@@ -541,6 +579,8 @@ uint32_t TarnIsPsIuhGatewayInfoIeValid(const TarnMsg *msg, const TarnPsIuhGatewa
  *   MuxUdpPort         tag 174  optional
  */
 
+enum { TarnRtpServerInfoTag = 87 };
+
 typedef struct TarnRtpServerInfoIe {
     TarnIe ie;
     VelDllHead children;
@@ -555,6 +595,13 @@ typedef struct TarnRtpServerInfoRecord {
     TarnJitterBufferSize JitterBufferSize;   /* 0x20 */
     TarnMuxUdpPort MuxUdpPort;               /* 0x10 */
 } TarnRtpServerInfoRecord;
+
+enum {
+    TarnRtpServerInfoHasTos = 0x80,
+    TarnRtpServerInfoHasRtcpTransInterval = 0x40,
+    TarnRtpServerInfoHasJitterBufferSize = 0x20,
+    TarnRtpServerInfoHasMuxUdpPort = 0x10,
+};
 
 /* TarnNewRtpServerInfoIe returns a new RtpServerInfo without children, owned by the caller. */
 TarnRtpServerInfoIe *TarnNewRtpServerInfoIe(void);
@@ -634,6 +681,8 @@ uint32_t TarnIsRtpServerInfoIeValid(const TarnMsg *msg, const TarnRtpServerInfoI
  *   RAC    tag 110  optional
  */
 
+enum { TarnTargetRNCIdTag = 106 };
+
 typedef struct TarnTargetRNCIdIe {
     TarnIe ie;
     VelDllHead children;
@@ -645,6 +694,8 @@ typedef struct TarnTargetRNCIdRecord {
     TarnRNCId RNCId;
     TarnRAC RAC; /* 0x80 */
 } TarnTargetRNCIdRecord;
+
+enum { TarnTargetRNCIdHasRAC = 0x80 };
 
 /* TarnNewTargetRNCIdIe returns a new TargetRNCId without children, owned by the caller. */
 TarnTargetRNCIdIe *TarnNewTargetRNCIdIe(void);
@@ -688,6 +739,8 @@ uint32_t TarnIsTargetRNCIdIeValid(const TarnMsg *msg, const TarnTargetRNCIdIe *i
  * Data volumes of the UE's RABs.
  *
  * List of 1 to 3 RabDataInfo (tag 103). */
+
+enum { TarnRabDataInfoListTag = 102 };
 
 typedef struct TarnRabDataInfoListIe {
     TarnIe ie;
@@ -734,6 +787,8 @@ uint32_t TarnIsRabDataInfoListIeValid(const TarnMsg *msg, const TarnRabDataInfoL
  *   RabDataInfoList  tag 102  composite, optional
  */
 
+enum { TarnUeContextRefTag = 95 };
+
 typedef struct TarnUeContextRefIe {
     TarnIe ie;
     VelDllHead children;
@@ -745,6 +800,11 @@ typedef struct TarnUeContextRefRecord {
     TarnSrnti Srnti;                           /* 0x80 */
     TarnRabDataInfoListRecord RabDataInfoList; /* 0x40 */
 } TarnUeContextRefRecord;
+
+enum {
+    TarnUeContextRefHasSrnti = 0x80,
+    TarnUeContextRefHasRabDataInfoList = 0x40,
+};
 
 /* TarnNewUeContextRefIe returns a new UeContextRef without children, owned by the caller. */
 TarnUeContextRefIe *TarnNewUeContextRefIe(void);
@@ -790,6 +850,8 @@ uint32_t TarnIsUeContextRefIeValid(const TarnMsg *msg, const TarnUeContextRefIe 
  * RABs that were set up.
  *
  * List of 0 to 3 RabSetupSuccessInfo (tag 58). */
+
+enum { TarnRabSetupSuccessListTag = 57 };
 
 typedef struct TarnRabSetupSuccessListIe {
     TarnIe ie;
@@ -842,6 +904,8 @@ uint32_t TarnIsRabSetupSuccessListIeValid(const TarnMsg *msg, const TarnRabSetup
  *   EncryptAlgo          tag 17   optional
  */
 
+enum { TarnResourceInfoPerCnDomainAckTag = 152 };
+
 typedef struct TarnResourceInfoPerCnDomainAckIe {
     TarnIe ie;
     VelDllHead children;
@@ -854,6 +918,12 @@ typedef struct TarnResourceInfoPerCnDomainAckRecord {
     TarnRabSetupFailedList RabSetupFailedList;         /* 0x40 */
     TarnEncryptAlgo EncryptAlgo;                       /* 0x20 */
 } TarnResourceInfoPerCnDomainAckRecord;
+
+enum {
+    TarnResourceInfoPerCnDomainAckHasRabSetupSuccessList = 0x80,
+    TarnResourceInfoPerCnDomainAckHasRabSetupFailedList = 0x40,
+    TarnResourceInfoPerCnDomainAckHasEncryptAlgo = 0x20,
+};
 
 /* TarnNewResourceInfoPerCnDomainAckIe returns a new ResourceInfoPerCnDomainAck without children,
  * owned by the caller. */
@@ -927,6 +997,8 @@ uint32_t TarnIsResourceInfoPerCnDomainAckIeValid(const TarnMsg *msg,
  *
  * List of 1 to 2 ResourceInfoPerCnDomainAck (tag 152). */
 
+enum { TarnResourceInfoPerCnDomainListAckTag = 153 };
+
 typedef struct TarnResourceInfoPerCnDomainListAckIe {
     TarnIe ie;
     VelDllHead children;
@@ -975,6 +1047,8 @@ TarnIsResourceInfoPerCnDomainListAckIeValid(const TarnMsg *msg,
  * SDU format information parameters.
  *
  * List of 0 to 64 SduFormatInfoParams (tag 41). */
+
+enum { TarnSduFormatInfoParamListTag = 40 };
 
 typedef struct TarnSduFormatInfoParamListIe {
     TarnIe ie;
@@ -1029,6 +1103,8 @@ uint32_t TarnIsSduFormatInfoParamListIeValid(const TarnMsg *msg,
  *   SecondBitErrRatio       tag 36   BitErrRatio again, optional
  */
 
+enum { TarnSduParamValueTag = 34 };
+
 typedef struct TarnSduParamValueIe {
     TarnIe ie;
     VelDllHead children;
@@ -1041,6 +1117,11 @@ typedef struct TarnSduParamValueRecord {
     TarnSduFormatInfoParamListRecord SduFormatInfoParamList; /* 0x80 */
     TarnBitErrRatio SecondBitErrRatio;                       /* 0x40 */
 } TarnSduParamValueRecord;
+
+enum {
+    TarnSduParamValueHasSduFormatInfoParamList = 0x80,
+    TarnSduParamValueHasSecondBitErrRatio = 0x40,
+};
 
 /* TarnNewSduParamValueIe returns a new SduParamValue without children, owned by the caller. */
 TarnSduParamValueIe *TarnNewSduParamValueIe(void);
@@ -1091,6 +1172,8 @@ uint32_t TarnIsSduParamValueIeValid(const TarnMsg *msg, const TarnSduParamValueI
  * SDU parameters, one element for each RAB subflow.
  *
  * List of 0 to 7 SduParamValue (tag 34). */
+
+enum { TarnSduParamsTag = 33 };
 
 typedef struct TarnSduParamsIe {
     TarnIe ie;
@@ -1147,6 +1230,8 @@ uint32_t TarnIsSduParamsIeValid(const TarnMsg *msg, const TarnSduParamsIe *ie);
  * Unpacking fails if a conditional child is missing although its condition holds, and also if one
  * stands there that is invalid or whose condition does not hold. */
 
+enum { TarnRabParamsTag = 26 };
+
 typedef struct TarnRabParamsIe {
     TarnIe ie;
     VelDllHead children;
@@ -1168,6 +1253,16 @@ typedef struct TarnRabParamsRecord {
     TarnTransDelay TransDelay;                           /* 0x04 */
     TarnTrafficHandlingPriority TrafficHandlingPriority; /* 0x02 */
 } TarnRabParamsRecord;
+
+enum {
+    TarnRabParamsHasPdpTypeInfoList = 0x80,
+    TarnRabParamsHasAllocRetPriority = 0x40,
+    TarnRabParamsHasDataVolReportingFlag = 0x20,
+    TarnRabParamsHasSecondBitRates = 0x10,
+    TarnRabParamsHasSourceStatsDescriptor = 0x08,
+    TarnRabParamsHasTransDelay = 0x04,
+    TarnRabParamsHasTrafficHandlingPriority = 0x02,
+};
 
 /* TarnNewRabParamsIe returns a new RabParams without children, owned by the caller. */
 TarnRabParamsIe *TarnNewRabParamsIe(void);
@@ -1302,6 +1397,8 @@ uint32_t TarnIsRabParamsIeValid(const TarnMsg *msg, const TarnRabParamsIe *ie);
  *   ServiceHandover         tag 127  optional
  */
 
+enum { TarnRabToSetUpInfoTag = 22 };
+
 typedef struct TarnRabToSetUpInfoIe {
     TarnIe ie;
     VelDllHead children;
@@ -1316,6 +1413,12 @@ typedef struct TarnRabToSetUpInfoRecord {
     TarnUserPlaneInfo UserPlaneInfo;     /* 0x40 */
     TarnServiceHandover ServiceHandover; /* 0x20 */
 } TarnRabToSetUpInfoRecord;
+
+enum {
+    TarnRabToSetUpInfoHasNasSyncInd = 0x80,
+    TarnRabToSetUpInfoHasUserPlaneInfo = 0x40,
+    TarnRabToSetUpInfoHasServiceHandover = 0x20,
+};
 
 /* TarnNewRabToSetUpInfoIe returns a new RabToSetUpInfo without children, owned by the caller. */
 TarnRabToSetUpInfoIe *TarnNewRabToSetUpInfoIe(void);
@@ -1394,6 +1497,8 @@ uint32_t TarnIsRabToSetUpInfoIeValid(const TarnMsg *msg, const TarnRabToSetUpInf
  *
  * List of 0 to 3 RabToSetUpInfo (tag 22). */
 
+enum { TarnRabListTag = 21 };
+
 typedef struct TarnRabListIe {
     TarnIe ie;
     VelDllHead children;
@@ -1436,6 +1541,8 @@ uint32_t TarnIsRabListIeValid(const TarnMsg *msg, const TarnRabListIe *ie);
  *   EncryptInfo  tag 14   optional
  */
 
+enum { TarnRabToSetupPerCnDomainTag = 125 };
+
 typedef struct TarnRabToSetupPerCnDomainIe {
     TarnIe ie;
     VelDllHead children;
@@ -1447,6 +1554,11 @@ typedef struct TarnRabToSetupPerCnDomainRecord {
     TarnRabListRecord RabList;   /* 0x80 */
     TarnEncryptInfo EncryptInfo; /* 0x40 */
 } TarnRabToSetupPerCnDomainRecord;
+
+enum {
+    TarnRabToSetupPerCnDomainHasRabList = 0x80,
+    TarnRabToSetupPerCnDomainHasEncryptInfo = 0x40,
+};
 
 /* TarnNewRabToSetupPerCnDomainIe returns a new RabToSetupPerCnDomain without children, owned by the
  * caller. */
@@ -1502,6 +1614,8 @@ uint32_t TarnIsRabToSetupPerCnDomainIeValid(const TarnMsg *msg,
  * RABs to set up at a handover, by core network domain.
  *
  * List of 1 to 2 RabToSetupPerCnDomain (tag 125). */
+
+enum { TarnRabToSetupPerCnDomainListTag = 150 };
 
 typedef struct TarnRabToSetupPerCnDomainListIe {
     TarnIe ie;

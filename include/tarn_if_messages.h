@@ -1,10 +1,10 @@
 /* Written by header_writer from the rows in src/catalogue; do not edit: change the rows or
  * tools/header_writer, then run `cmake --build build --target headers`. */
 
-/* The messages. For each message M stand here its record type TarnMRecord and its operations, on
- * message objects and, in one call, on the record. Its comment gives its IEs in wire order with the
- * mandatory ones first; before them all stands the MessageId IE (tag 72, one byte: the message's
- * id).
+/* The messages. For each message M stand here its id TarnMMsgId, its record type TarnMRecord and
+ * its operations, on message objects and, in one call, on the record. Its comment gives its IEs in
+ * wire order with the mandatory ones first; before them all stands the MessageId IE (tag 72, one
+ * byte: the message's id).
  *
  * TarnNewMMsg returns a new message object that holds its MessageId, so that there is no need to
  * call TarnAppendMessageIdToMMsg. The caller owns it, until TarnDeleteMsg.
@@ -38,10 +38,10 @@
  * (tarn_if.h).
  *
  * TarnMRecord is the message as a plain record: its id, a presence mask in which each optional or
- * conditional IE has the bit that stands beside its member, and one member per IE in the order of
- * the table. A composite IE's member is its own record, with a count where elements repeat and a
- * presence mask where children are optional. Records belong to the caller and hold no pointers.
- * Those with nested lists are large.
+ * conditional IE has the bit that stands beside its member (TarnMHasS for the member S), and one
+ * member per IE in the order of the table. A composite IE's member is its own record, with a count
+ * where elements repeat and a presence mask where children are optional. Records belong to the
+ * caller and hold no pointers. Those with nested lists are large.
  *
  * TarnBuildMMsg packs the record into buffer, its mandatory members and those whose presence bit is
  * set, returning the number of bytes written and 0 on failure. MessageId is not read. It fails if a
@@ -120,6 +120,8 @@ extern "C" {
  *
  * Build writes 25 bytes at most. */
 
+enum { TarnUeContextRequestMsgId = 1 };
+
 typedef struct TarnUeContextRequestRecord {
     uint8_t MessageId;
     uint8_t presence; /* no bit in use */
@@ -184,6 +186,8 @@ uint32_t TarnGetUeContextRequestMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 27 bytes at most. */
 
+enum { TarnUeContextAcceptMsgId = 2 };
+
 typedef struct TarnUeContextAcceptRecord {
     uint8_t MessageId;
     uint8_t presence; /* no bit in use */
@@ -245,6 +249,8 @@ uint32_t TarnGetUeContextAcceptMsg(const uint8_t *buffer, uint32_t length,
  *   RejectCause  tag 4    mandatory
  *
  * Build writes 25 bytes at most. */
+
+enum { TarnUeContextRejectMsgId = 3 };
 
 typedef struct TarnUeContextRejectRecord {
     uint8_t MessageId;
@@ -310,6 +316,8 @@ uint32_t TarnGetUeContextRejectMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 140 bytes at most. */
 
+enum { TarnUeContextReleaseMsgId = 4 };
+
 typedef struct TarnUeContextReleaseRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -318,6 +326,8 @@ typedef struct TarnUeContextReleaseRecord {
     TarnReleaseCause ReleaseCause;
     TarnRabDataInfoListRecord RabDataInfoList; /* 0x80 */
 } TarnUeContextReleaseRecord;
+
+enum { TarnUeContextReleaseHasRabDataInfoList = 0x80 };
 
 /* TarnNewUeContextReleaseMsg returns a new message that holds its MessageId, owned by the
  * caller. */
@@ -396,6 +406,8 @@ uint32_t TarnGetUeContextReleaseMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 4180 bytes at most. The record takes about 4 KiB of the caller's memory. */
 
+enum { TarnInitDirectTransferMsgId = 5 };
+
 typedef struct TarnInitDirectTransferRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -406,6 +418,11 @@ typedef struct TarnInitDirectTransferRecord {
     TarnImsi Imsi;   /* 0x80 */
     TarnIdnns Idnns; /* 0x40 */
 } TarnInitDirectTransferRecord;
+
+enum {
+    TarnInitDirectTransferHasImsi = 0x80,
+    TarnInitDirectTransferHasIdnns = 0x40,
+};
 
 /* TarnNewInitDirectTransferMsg returns a new message that holds its MessageId, owned by the
  * caller. */
@@ -498,6 +515,8 @@ uint32_t TarnGetInitDirectTransferMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 4136 bytes at most. The record takes about 4 KiB of the caller's memory. */
 
+enum { TarnUlDirectTransferMsgId = 6 };
+
 typedef struct TarnUlDirectTransferRecord {
     uint8_t MessageId;
     uint8_t presence; /* no bit in use */
@@ -581,6 +600,8 @@ uint32_t TarnGetUlDirectTransferMsg(const uint8_t *buffer, uint32_t length,
  *   SapiId      tag 8    mandatory
  *
  * Build writes 4144 bytes at most. The record takes about 4 KiB of the caller's memory. */
+
+enum { TarnDlDirectTransferMsgId = 7 };
 
 typedef struct TarnDlDirectTransferRecord {
     uint8_t MessageId;
@@ -674,6 +695,8 @@ uint32_t TarnGetDlDirectTransferMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 43 bytes at most. */
 
+enum { TarnIuReleaseRequestMsgId = 8 };
+
 typedef struct TarnIuReleaseRequestRecord {
     uint8_t MessageId;
     uint8_t presence; /* no bit in use */
@@ -759,6 +782,8 @@ uint32_t TarnGetIuReleaseRequestMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 59 bytes at most. */
 
+enum { TarnIuReleaseCommandMsgId = 9 };
+
 typedef struct TarnIuReleaseCommandRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -769,6 +794,8 @@ typedef struct TarnIuReleaseCommandRecord {
     TarnRespExpected RespExpected;
     TarnIuRelCauseNew IuRelCauseNew; /* 0x80 */
 } TarnIuReleaseCommandRecord;
+
+enum { TarnIuReleaseCommandHasIuRelCauseNew = 0x80 };
 
 /* TarnNewIuReleaseCommandMsg returns a new message that holds its MessageId, owned by the
  * caller. */
@@ -862,6 +889,8 @@ uint32_t TarnGetIuReleaseCommandMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 129 bytes at most. */
 
+enum { TarnSecurityModeCommandMsgId = 10 };
+
 typedef struct TarnSecurityModeCommandRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -872,6 +901,8 @@ typedef struct TarnSecurityModeCommandRecord {
     TarnKeyStatus KeyStatus;
     TarnEncryptInfo EncryptInfo; /* 0x80 */
 } TarnSecurityModeCommandRecord;
+
+enum { TarnSecurityModeCommandHasEncryptInfo = 0x80 };
 
 /* TarnNewSecurityModeCommandMsg returns a new message that holds its MessageId, owned by the
  * caller. */
@@ -965,6 +996,8 @@ uint32_t TarnGetSecurityModeCommandMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 51 bytes at most. */
 
+enum { TarnSecurityModeCompleteMsgId = 11 };
+
 typedef struct TarnSecurityModeCompleteRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -974,6 +1007,8 @@ typedef struct TarnSecurityModeCompleteRecord {
     TarnIntProtAlgo IntProtAlgo;
     TarnEncryptAlgo EncryptAlgo; /* 0x80 */
 } TarnSecurityModeCompleteRecord;
+
+enum { TarnSecurityModeCompleteHasEncryptAlgo = 0x80 };
 
 /* TarnNewSecurityModeCompleteMsg returns a new message that holds its MessageId, owned by the
  * caller. */
@@ -1058,6 +1093,8 @@ uint32_t TarnGetSecurityModeCompleteMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 43 bytes at most. */
 
+enum { TarnSecurityModeRejectMsgId = 12 };
+
 typedef struct TarnSecurityModeRejectRecord {
     uint8_t MessageId;
     uint8_t presence; /* no bit in use */
@@ -1141,6 +1178,8 @@ uint32_t TarnGetSecurityModeRejectMsg(const uint8_t *buffer, uint32_t length,
  *   RabList     tag 21   composite, mandatory
  *
  * Build writes 34295 bytes at most. The record takes about 11 KiB of the caller's memory. */
+
+enum { TarnRabAssignmentRequestMsgId = 13 };
 
 typedef struct TarnRabAssignmentRequestRecord {
     uint8_t MessageId;
@@ -1227,6 +1266,8 @@ uint32_t TarnGetRabAssignmentRequestMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 203 bytes at most. */
 
+enum { TarnRabAssignmentResponseMsgId = 14 };
+
 typedef struct TarnRabAssignmentResponseRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -1236,6 +1277,11 @@ typedef struct TarnRabAssignmentResponseRecord {
     TarnRabSetupSuccessListRecord RabSetupSuccessList; /* 0x80 */
     TarnRabSetupFailedList RabSetupFailedList;         /* 0x40 */
 } TarnRabAssignmentResponseRecord;
+
+enum {
+    TarnRabAssignmentResponseHasRabSetupSuccessList = 0x80,
+    TarnRabAssignmentResponseHasRabSetupFailedList = 0x40,
+};
 
 /* TarnNewRabAssignmentResponseMsg returns a new message that holds its MessageId, owned by the
  * caller. */
@@ -1327,6 +1373,8 @@ uint32_t TarnGetRabAssignmentResponseMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 104 bytes at most. */
 
+enum { TarnRabReleaseRequestMsgId = 15 };
+
 typedef struct TarnRabReleaseRequestRecord {
     uint8_t MessageId;
     uint8_t presence; /* no bit in use */
@@ -1413,6 +1461,8 @@ uint32_t TarnGetRabReleaseRequestMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 167 bytes at most. */
 
+enum { TarnRabReleaseResponseMsgId = 16 };
+
 typedef struct TarnRabReleaseResponseRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -1422,6 +1472,11 @@ typedef struct TarnRabReleaseResponseRecord {
     TarnRabDataInfoListRecord RabDataInfoList; /* 0x80 */
     TarnRabIdList RabIdList;                   /* 0x40 */
 } TarnRabReleaseResponseRecord;
+
+enum {
+    TarnRabReleaseResponseHasRabDataInfoList = 0x80,
+    TarnRabReleaseResponseHasRabIdList = 0x40,
+};
 
 /* TarnNewRabReleaseResponseMsg returns a new message that holds its MessageId, owned by the
  * caller. */
@@ -1505,6 +1560,8 @@ uint32_t TarnGetRabReleaseResponseMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 15 bytes at most. */
 
+enum { TarnResetMsgId = 17 };
+
 typedef struct TarnResetRecord {
     uint8_t MessageId;
     uint8_t presence; /* no bit in use */
@@ -1561,6 +1618,8 @@ uint32_t TarnGetResetMsg(const uint8_t *buffer, uint32_t length, TarnResetRecord
  *
  * Build writes 154 bytes at most. */
 
+enum { TarnIapResetMsgId = 18 };
+
 typedef struct TarnIapResetRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -1568,6 +1627,8 @@ typedef struct TarnIapResetRecord {
     TarnReset3GAP Reset3GAP;
     TarnUeContextRefRecord UeContextRef; /* 0x80 */
 } TarnIapResetRecord;
+
+enum { TarnIapResetHasUeContextRef = 0x80 };
 
 /* TarnNewIapResetMsg returns a new message that holds its MessageId, owned by the caller. */
 TarnMsg *TarnNewIapResetMsg(void);
@@ -1630,6 +1691,8 @@ uint32_t TarnGetIapResetMsg(const uint8_t *buffer, uint32_t length, TarnIapReset
  *   PagingRecordTypeInd  tag 75   mandatory
  *
  * Build writes 65 bytes at most. */
+
+enum { TarnConnectedModePagingMsgId = 19 };
 
 typedef struct TarnConnectedModePagingRecord {
     uint8_t MessageId;
@@ -1737,6 +1800,8 @@ uint32_t TarnGetConnectedModePagingMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 69 bytes at most. */
 
+enum { TarnIdleModePagingMsgId = 20 };
+
 typedef struct TarnIdleModePagingRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -1746,6 +1811,11 @@ typedef struct TarnIdleModePagingRecord {
     TarnDrxCycleLenCoeff DrxCycleLenCoeff; /* 0x80 */
     TarnTempUeId TempUeId;                 /* 0x40 */
 } TarnIdleModePagingRecord;
+
+enum {
+    TarnIdleModePagingHasDrxCycleLenCoeff = 0x80,
+    TarnIdleModePagingHasTempUeId = 0x40,
+};
 
 /* TarnNewIdleModePagingMsg returns a new message that holds its MessageId, owned by the caller. */
 TarnMsg *TarnNewIdleModePagingMsg(void);
@@ -1833,6 +1903,8 @@ uint32_t TarnGetIdleModePagingMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 118 bytes at most. */
 
+enum { TarnUserPlaneConfigRequestMsgId = 21 };
+
 typedef struct TarnUserPlaneConfigRequestRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -1845,6 +1917,12 @@ typedef struct TarnUserPlaneConfigRequestRecord {
     TarnMaxBitRateUplink MaxBitRateUplink;                 /* 0x40 */
     TarnMaxBitRateDownlink MaxBitRateDownlink;             /* 0x20 */
 } TarnUserPlaneConfigRequestRecord;
+
+enum {
+    TarnUserPlaneConfigRequestHasAlcapLinkCharacteristics = 0x80,
+    TarnUserPlaneConfigRequestHasMaxBitRateUplink = 0x40,
+    TarnUserPlaneConfigRequestHasMaxBitRateDownlink = 0x20,
+};
 
 /* TarnNewUserPlaneConfigRequestMsg returns a new message that holds its MessageId, owned by the
  * caller. */
@@ -1971,6 +2049,8 @@ uint32_t TarnGetUserPlaneConfigRequestMsg(const uint8_t *buffer, uint32_t length
  *
  * Build writes 243 bytes at most. */
 
+enum { TarnUserPlaneConfigResponseMsgId = 22 };
+
 typedef struct TarnUserPlaneConfigResponseRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -1982,6 +2062,12 @@ typedef struct TarnUserPlaneConfigResponseRecord {
     TarnRtpSecurityInfo RtpSecurityInfo;         /* 0x40 */
     TarnPsIuhGatewayInfoRecord PsIuhGatewayInfo; /* 0x20 */
 } TarnUserPlaneConfigResponseRecord;
+
+enum {
+    TarnUserPlaneConfigResponseHasRtpServerInfo = 0x80,
+    TarnUserPlaneConfigResponseHasRtpSecurityInfo = 0x40,
+    TarnUserPlaneConfigResponseHasPsIuhGatewayInfo = 0x20,
+};
 
 /* TarnNewUserPlaneConfigResponseMsg returns a new message that holds its MessageId, owned by the
  * caller. */
@@ -2093,6 +2179,8 @@ uint32_t TarnGetUserPlaneConfigResponseMsg(const uint8_t *buffer, uint32_t lengt
  *
  * Build writes 132 bytes at most. */
 
+enum { TarnIuReleaseCompleteMsgId = 23 };
+
 typedef struct TarnIuReleaseCompleteRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -2100,6 +2188,8 @@ typedef struct TarnIuReleaseCompleteRecord {
     TarnAcUeId AcUeId;
     TarnRabDataInfoListRecord RabDataInfoList; /* 0x80 */
 } TarnIuReleaseCompleteRecord;
+
+enum { TarnIuReleaseCompleteHasRabDataInfoList = 0x80 };
 
 /* TarnNewIuReleaseCompleteMsg returns a new message that holds its MessageId, owned by the
  * caller. */
@@ -2178,6 +2268,8 @@ uint32_t TarnGetIuReleaseCompleteMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 2533 bytes at most. The record takes about 2 KiB of the caller's memory. */
 
+enum { TarnRelocationRequiredMsgId = 24 };
+
 typedef struct TarnRelocationRequiredRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -2192,6 +2284,15 @@ typedef struct TarnRelocationRequiredRecord {
     TarnTargetCGI TargetCGI;                               /* 0x08 */
     TarnOldBssToNewBssInfo OldBssToNewBssInfo;             /* 0x04 */
 } TarnRelocationRequiredRecord;
+
+enum {
+    TarnRelocationRequiredHasModifiedSrncContainer = 0x80,
+    TarnRelocationRequiredHasTargetRNCId = 0x40,
+    TarnRelocationRequiredHasGsmClassmark2 = 0x20,
+    TarnRelocationRequiredHasGsmClassmark3 = 0x10,
+    TarnRelocationRequiredHasTargetCGI = 0x08,
+    TarnRelocationRequiredHasOldBssToNewBssInfo = 0x04,
+};
 
 /* TarnNewRelocationRequiredMsg returns a new message that holds its MessageId, owned by the
  * caller. */
@@ -2328,6 +2429,8 @@ uint32_t TarnGetRelocationRequiredMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 35 bytes at most. */
 
+enum { TarnRelocationFailureMsgId = 25 };
+
 typedef struct TarnRelocationFailureRecord {
     uint8_t MessageId;
     uint8_t presence; /* no bit in use */
@@ -2405,6 +2508,8 @@ uint32_t TarnGetRelocationFailureMsg(const uint8_t *buffer, uint32_t length,
  *   RelocationCancelCause  tag 130  mandatory
  *
  * Build writes 35 bytes at most. */
+
+enum { TarnRelocationCancelMsgId = 26 };
 
 typedef struct TarnRelocationCancelRecord {
     uint8_t MessageId;
@@ -2484,6 +2589,8 @@ uint32_t TarnGetRelocationCancelMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 2382 bytes at most. The record takes about 2 KiB of the caller's memory. */
 
+enum { TarnRelocationCommandMsgId = 27 };
+
 typedef struct TarnRelocationCommandRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -2493,6 +2600,12 @@ typedef struct TarnRelocationCommandRecord {
     TarnL3Information L3Information;                 /* 0x40 */
     TarnHandoutRabReleaseList HandoutRabReleaseList; /* 0x20 */
 } TarnRelocationCommandRecord;
+
+enum {
+    TarnRelocationCommandHasRrcContainer = 0x80,
+    TarnRelocationCommandHasL3Information = 0x40,
+    TarnRelocationCommandHasHandoutRabReleaseList = 0x20,
+};
 
 /* TarnNewRelocationCommandMsg returns a new message that holds its MessageId, owned by the
  * caller. */
@@ -2582,6 +2695,8 @@ uint32_t TarnGetRelocationCommandMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 70820 bytes at most. The record takes about 25 KiB of the caller's memory. */
 
+enum { TarnHandoverRequestMsgId = 28 };
+
 typedef struct TarnHandoverRequestRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -2591,6 +2706,11 @@ typedef struct TarnHandoverRequestRecord {
     TarnRabToSetupPerCnDomainListRecord RabToSetupPerCnDomainList; /* 0x80 */
     TarnIntProtInfo IntProtInfo;                                   /* 0x40 */
 } TarnHandoverRequestRecord;
+
+enum {
+    TarnHandoverRequestHasRabToSetupPerCnDomainList = 0x80,
+    TarnHandoverRequestHasIntProtInfo = 0x40,
+};
 
 /* TarnNewHandoverRequestMsg returns a new message that holds its MessageId, owned by the caller. */
 TarnMsg *TarnNewHandoverRequestMsg(void);
@@ -2681,6 +2801,8 @@ uint32_t TarnGetHandoverRequestMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 35 bytes at most. */
 
+enum { TarnHandoverFailureMsgId = 29 };
+
 typedef struct TarnHandoverFailureRecord {
     uint8_t MessageId;
     uint8_t presence; /* no bit in use */
@@ -2754,6 +2876,8 @@ uint32_t TarnGetHandoverFailureMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 27 bytes at most. */
 
+enum { TarnHandoverDetectMsgId = 30 };
+
 typedef struct TarnHandoverDetectRecord {
     uint8_t MessageId;
     uint8_t presence; /* no bit in use */
@@ -2814,6 +2938,8 @@ uint32_t TarnGetHandoverDetectMsg(const uint8_t *buffer, uint32_t length,
  *   AcUeId  tag 3    mandatory
  *
  * Build writes 27 bytes at most. */
+
+enum { TarnHandoverCompleteMsgId = 31 };
 
 typedef struct TarnHandoverCompleteRecord {
     uint8_t MessageId;
@@ -2877,6 +3003,8 @@ uint32_t TarnGetHandoverCompleteMsg(const uint8_t *buffer, uint32_t length,
  *   AcUeId  tag 3    mandatory
  *
  * Build writes 27 bytes at most. */
+
+enum { TarnHandoverCancelIndMsgId = 32 };
 
 typedef struct TarnHandoverCancelIndRecord {
     uint8_t MessageId;
@@ -2945,6 +3073,8 @@ uint32_t TarnGetHandoverCancelIndMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 2427 bytes at most. The record takes about 2 KiB of the caller's memory. */
 
+enum { TarnHandoverReqAckMsgId = 33 };
+
 typedef struct TarnHandoverReqAckRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -2954,6 +3084,11 @@ typedef struct TarnHandoverReqAckRecord {
     TarnIntProtAlgo IntProtAlgo;                                             /* 0x80 */
     TarnResourceInfoPerCnDomainListAckRecord ResourceInfoPerCnDomainListAck; /* 0x40 */
 } TarnHandoverReqAckRecord;
+
+enum {
+    TarnHandoverReqAckHasIntProtAlgo = 0x80,
+    TarnHandoverReqAckHasResourceInfoPerCnDomainListAck = 0x40,
+};
 
 /* TarnNewHandoverReqAckMsg returns a new message that holds its MessageId, owned by the caller. */
 TarnMsg *TarnNewHandoverReqAckMsg(void);
@@ -3040,6 +3175,8 @@ uint32_t TarnGetHandoverReqAckMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 65 bytes at most. */
 
+enum { TarnUserPlaneModifyRequestMsgId = 35 };
+
 typedef struct TarnUserPlaneModifyRequestRecord {
     uint8_t MessageId;
     uint8_t presence;
@@ -3050,6 +3187,11 @@ typedef struct TarnUserPlaneModifyRequestRecord {
     TarnMaxBitRateUplink MaxBitRateUplink;     /* 0x80 */
     TarnMaxBitRateDownlink MaxBitRateDownlink; /* 0x40 */
 } TarnUserPlaneModifyRequestRecord;
+
+enum {
+    TarnUserPlaneModifyRequestHasMaxBitRateUplink = 0x80,
+    TarnUserPlaneModifyRequestHasMaxBitRateDownlink = 0x40,
+};
 
 /* TarnNewUserPlaneModifyRequestMsg returns a new message that holds its MessageId, owned by the
  * caller. */
@@ -3154,6 +3296,8 @@ uint32_t TarnGetUserPlaneModifyRequestMsg(const uint8_t *buffer, uint32_t length
  *
  * Build writes 43 bytes at most. */
 
+enum { TarnUserPlaneModifyResponseMsgId = 36 };
+
 typedef struct TarnUserPlaneModifyResponseRecord {
     uint8_t MessageId;
     uint8_t presence; /* no bit in use */
@@ -3244,6 +3388,8 @@ uint32_t TarnGetUserPlaneModifyResponseMsg(const uint8_t *buffer, uint32_t lengt
  *
  * Build writes 104 bytes at most. */
 
+enum { TarnRabReleaseRequiredMsgId = 37 };
+
 typedef struct TarnRabReleaseRequiredRecord {
     uint8_t MessageId;
     uint8_t presence; /* no bit in use */
@@ -3330,6 +3476,8 @@ uint32_t TarnGetRabReleaseRequiredMsg(const uint8_t *buffer, uint32_t length,
  *
  * Build writes 57 bytes at most. */
 
+enum { TarnAccessControlRequestMsgId = 38 };
+
 typedef struct TarnAccessControlRequestRecord {
     uint8_t MessageId;
     uint8_t presence; /* no bit in use */
@@ -3413,6 +3561,8 @@ uint32_t TarnGetAccessControlRequestMsg(const uint8_t *buffer, uint32_t length,
  *   LacMatch  tag 168  mandatory
  *
  * Build writes 57 bytes at most. */
+
+enum { TarnAccessControlResponseMsgId = 39 };
 
 typedef struct TarnAccessControlResponseRecord {
     uint8_t MessageId;

@@ -2,8 +2,8 @@
  * tools/header_writer, then run `cmake --build build --target headers`. */
 
 /* The primitive IEs: IEs that hold a value. For each IE X stand here its value type TarnX, its IE
- * object type TarnXIe, and seven operations. Some types travel only inside others or have no tag at
- * all; these have no IE object and only the first four operations.
+ * object type TarnXIe, its tag TarnXTag, and seven operations. Some types travel only inside others
+ * or have no tag at all; these have no IE object and only the first four operations.
  *
  * Values come in four shapes:
  *
@@ -75,6 +75,8 @@ extern "C" {
  *
  * A uint32_t, any value; 4 bytes on the wire, 10 bytes with its header. */
 
+enum { TarnSrntiTag = 1 };
+
 typedef uint32_t TarnSrnti;
 
 typedef struct TarnSrntiIe {
@@ -113,6 +115,8 @@ uint32_t TarnIsSrntiIeValid(const void *container, const TarnSrntiIe *ie);
  * RRC establishment cause.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnEstablishCauseTag = 2 };
 
 typedef uint32_t TarnEstablishCause;
 
@@ -154,6 +158,8 @@ uint32_t TarnIsEstablishCauseIeValid(const void *container, const TarnEstablishC
  *
  * A uint32_t, any value; 4 bytes on the wire, 10 bytes with its header. */
 
+enum { TarnAcUeIdTag = 3 };
+
 typedef uint32_t TarnAcUeId;
 
 typedef struct TarnAcUeIdIe {
@@ -193,6 +199,8 @@ uint32_t TarnIsAcUeIdIeValid(const void *container, const TarnAcUeIdIe *ie);
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnRejectCauseTag = 4 };
+
 typedef uint32_t TarnRejectCause;
 
 typedef struct TarnRejectCauseIe {
@@ -231,6 +239,8 @@ uint32_t TarnIsRejectCauseIeValid(const void *container, const TarnRejectCauseIe
  * Cause of a UE context release.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnReleaseCauseTag = 5 };
 
 typedef uint32_t TarnReleaseCause;
 
@@ -272,6 +282,8 @@ uint32_t TarnIsReleaseCauseIeValid(const void *container, const TarnReleaseCause
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnCnDomainIdTag = 6 };
+
 typedef uint32_t TarnCnDomainId;
 
 typedef struct TarnCnDomainIdIe {
@@ -311,6 +323,8 @@ uint32_t TarnIsCnDomainIdIeValid(const void *container, const TarnCnDomainIdIe *
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnSapiIdTag = 8 };
+
 typedef uint32_t TarnSapiId;
 
 typedef struct TarnSapiIdIe {
@@ -349,6 +363,8 @@ uint32_t TarnIsSapiIdIeValid(const void *container, const TarnSapiIdIe *ie);
  * Cause of an Iu release request.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnIuRelReqCauseTag = 9 };
 
 typedef uint32_t TarnIuRelReqCause;
 
@@ -390,6 +406,8 @@ uint32_t TarnIsIuRelReqCauseIeValid(const void *container, const TarnIuRelReqCau
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnKeyStatusTag = 10 };
+
 typedef uint32_t TarnKeyStatus;
 
 typedef struct TarnKeyStatusIe {
@@ -428,6 +446,8 @@ uint32_t TarnIsKeyStatusIeValid(const void *container, const TarnKeyStatusIe *ie
  * Integrity protection algorithm (UIA).
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnIntProtAlgoTag = 12 };
 
 typedef uint32_t TarnIntProtAlgo;
 
@@ -468,6 +488,8 @@ uint32_t TarnIsIntProtAlgoIeValid(const void *container, const TarnIntProtAlgoIe
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnEncryptAlgoTag = 17 };
+
 typedef uint32_t TarnEncryptAlgo;
 
 typedef struct TarnEncryptAlgoIe {
@@ -507,6 +529,8 @@ uint32_t TarnIsEncryptAlgoIeValid(const void *container, const TarnEncryptAlgoIe
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnSecRejCauseTag = 18 };
+
 typedef uint32_t TarnSecRejCause;
 
 typedef struct TarnSecRejCauseIe {
@@ -545,6 +569,8 @@ uint32_t TarnIsSecRejCauseIeValid(const void *container, const TarnSecRejCauseIe
  * Iu user plane mode (transparent or support mode).
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnUserPlaneModeTag = 20 };
 
 typedef uint32_t TarnUserPlaneMode;
 
@@ -586,6 +612,8 @@ uint32_t TarnIsUserPlaneModeIeValid(const void *container, const TarnUserPlaneMo
  *
  * A uint8_t, any value; 1 byte on the wire, 7 bytes with its header. */
 
+enum { TarnRabIdTag = 23 };
+
 typedef uint8_t TarnRabId;
 
 typedef struct TarnRabIdIe {
@@ -624,6 +652,8 @@ uint32_t TarnIsRabIdIeValid(const void *container, const TarnRabIdIe *ie);
  * User plane association identifier on the access controller's side.
  *
  * A uint32_t, any value; 4 bytes on the wire, 10 bytes with its header. */
+
+enum { TarnAcUserPlaneAssociationTag = 24 };
 
 typedef uint32_t TarnAcUserPlaneAssociation;
 
@@ -670,6 +700,8 @@ uint32_t TarnIsAcUserPlaneAssociationIeValid(const void *container,
  *
  * A uint8_t, any value; 1 byte on the wire, 7 bytes with its header. */
 
+enum { TarnNasSyncIndTag = 25 };
+
 typedef uint8_t TarnNasSyncInd;
 
 typedef struct TarnNasSyncIndIe {
@@ -708,6 +740,8 @@ uint32_t TarnIsNasSyncIndIeValid(const void *container, const TarnNasSyncIndIe *
  * Traffic class; 3 is interactive, 0 and 2 count as real-time.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnTrafficClassTag = 27 };
 
 typedef uint32_t TarnTrafficClass;
 
@@ -749,6 +783,8 @@ uint32_t TarnIsTrafficClassIeValid(const void *container, const TarnTrafficClass
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnRabAssymetryIndTag = 28 };
+
 typedef uint32_t TarnRabAssymetryInd;
 
 typedef struct TarnRabAssymetryIndIe {
@@ -789,6 +825,8 @@ uint32_t TarnIsRabAssymetryIndIeValid(const void *container, const TarnRabAssyme
  *
  * A uint16_t, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnMaxSduSizeTag = 29 };
+
 typedef uint16_t TarnMaxSduSize;
 
 typedef struct TarnMaxSduSizeIe {
@@ -827,6 +865,8 @@ uint32_t TarnIsMaxSduSizeIeValid(const void *container, const TarnMaxSduSizeIe *
  * Delivery of erroneous SDUs.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnDeliveryOfErrSduTag = 35 };
 
 typedef uint32_t TarnDeliveryOfErrSdu;
 
@@ -870,6 +910,8 @@ uint32_t TarnIsDeliveryOfErrSduIeValid(const void *container, const TarnDelivery
  *
  * A uint8_t, any value; 1 byte on the wire, 7 bytes with its header. */
 
+enum { TarnMantissaTag = 37 };
+
 typedef uint8_t TarnMantissa;
 
 typedef struct TarnMantissaIe {
@@ -909,6 +951,8 @@ uint32_t TarnIsMantissaIeValid(const void *container, const TarnMantissaIe *ie);
  *
  * A uint8_t, any value; 1 byte on the wire, 7 bytes with its header. */
 
+enum { TarnExponentTag = 38 };
+
 typedef uint8_t TarnExponent;
 
 typedef struct TarnExponentIe {
@@ -947,6 +991,8 @@ uint32_t TarnIsExponentIeValid(const void *container, const TarnExponentIe *ie);
  * Iu user plane mode versions, one bit each.
  *
  * A uint16_t, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnUserPlaneModeVersionsTag = 39 };
 
 typedef uint16_t TarnUserPlaneModeVersions;
 
@@ -993,6 +1039,8 @@ uint32_t TarnIsUserPlaneModeVersionsIeValid(const void *container,
  *
  * A uint16_t, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnSduSizeTag = 42 };
+
 typedef uint16_t TarnSduSize;
 
 typedef struct TarnSduSizeIe {
@@ -1031,6 +1079,8 @@ uint32_t TarnIsSduSizeIeValid(const void *container, const TarnSduSizeIe *ie);
  * RAB subflow combination bit rate.
  *
  * A uint32_t, any value; 4 bytes on the wire, 10 bytes with its header. */
+
+enum { TarnRabSubflowCombBitRateTag = 43 };
 
 typedef uint32_t TarnRabSubflowCombBitRate;
 
@@ -1078,6 +1128,8 @@ uint32_t TarnIsRabSubflowCombBitRateIeValid(const void *container,
  *
  * A uint16_t, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnApUserPlaneAssociationTag = 44 };
+
 typedef uint16_t TarnApUserPlaneAssociation;
 
 typedef struct TarnApUserPlaneAssociationIe {
@@ -1122,6 +1174,8 @@ uint32_t TarnIsApUserPlaneAssociationIeValid(const void *container,
  * Source statistics descriptor.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnSourceStatsDescriptorTag = 47 };
 
 typedef uint32_t TarnSourceStatsDescriptor;
 
@@ -1168,6 +1222,8 @@ uint32_t TarnIsSourceStatsDescriptorIeValid(const void *container,
  *
  * A uint16_t, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnTransDelayTag = 48 };
+
 typedef uint16_t TarnTransDelay;
 
 typedef struct TarnTransDelayIe {
@@ -1206,6 +1262,8 @@ uint32_t TarnIsTransDelayIeValid(const void *container, const TarnTransDelayIe *
  * Traffic handling priority.
  *
  * A uint8_t, any value; 1 byte on the wire, 7 bytes with its header. */
+
+enum { TarnTrafficHandlingPriorityTag = 49 };
 
 typedef uint8_t TarnTrafficHandlingPriority;
 
@@ -1253,6 +1311,8 @@ uint32_t TarnIsTrafficHandlingPriorityIeValid(const void *container,
  *
  * A uint8_t, any value; 1 byte on the wire, 7 bytes with its header. */
 
+enum { TarnPriorityLevelTag = 51 };
+
 typedef uint8_t TarnPriorityLevel;
 
 typedef struct TarnPriorityLevelIe {
@@ -1292,6 +1352,8 @@ uint32_t TarnIsPriorityLevelIeValid(const void *container, const TarnPriorityLev
  * Pre-emption capability.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnPreemptionCapabilityTag = 52 };
 
 typedef uint32_t TarnPreemptionCapability;
 
@@ -1337,6 +1399,8 @@ uint32_t TarnIsPreemptionCapabilityIeValid(const void *container,
  * Pre-emption vulnerability.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnPreemptionVulnerabilityTag = 53 };
 
 typedef uint32_t TarnPreemptionVulnerability;
 
@@ -1384,6 +1448,8 @@ uint32_t TarnIsPreemptionVulnerabilityIeValid(const void *container,
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnQueuingAllowedTag = 54 };
+
 typedef uint32_t TarnQueuingAllowed;
 
 typedef struct TarnQueuingAllowedIe {
@@ -1423,6 +1489,8 @@ uint32_t TarnIsQueuingAllowedIeValid(const void *container, const TarnQueuingAll
  * Whether SDUs are delivered in order.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnDeliveryOrderTag = 55 };
 
 typedef uint32_t TarnDeliveryOrder;
 
@@ -1464,6 +1532,8 @@ uint32_t TarnIsDeliveryOrderIeValid(const void *container, const TarnDeliveryOrd
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnIuRelCauseTag = 56 };
+
 typedef uint32_t TarnIuRelCause;
 
 typedef struct TarnIuRelCauseIe {
@@ -1503,6 +1573,8 @@ uint32_t TarnIsIuRelCauseIeValid(const void *container, const TarnIuRelCauseIe *
  *
  * A uint16_t, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnUdpPortTag = 62 };
+
 typedef uint16_t TarnUdpPort;
 
 typedef struct TarnUdpPortIe {
@@ -1541,6 +1613,8 @@ uint32_t TarnIsUdpPortIeValid(const void *container, const TarnUdpPortIe *ie);
  * Cause of a failed RAB set-up.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnRabSetupFailCauseTag = 65 };
 
 typedef uint32_t TarnRabSetupFailCause;
 
@@ -1584,6 +1658,8 @@ uint32_t TarnIsRabSetupFailCauseIeValid(const void *container, const TarnRabSetu
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnRabReleaseCauseTag = 68 };
+
 typedef uint32_t TarnRabReleaseCause;
 
 typedef struct TarnRabReleaseCauseIe {
@@ -1624,6 +1700,8 @@ uint32_t TarnIsRabReleaseCauseIeValid(const void *container, const TarnRabReleas
  *
  * A uint8_t, any value; 1 byte on the wire, 7 bytes with its header. */
 
+enum { TarnMessageIdTag = 72 };
+
 typedef uint8_t TarnMessageId;
 
 typedef struct TarnMessageIdIe {
@@ -1662,6 +1740,8 @@ uint32_t TarnIsMessageIdIeValid(const void *container, const TarnMessageIdIe *ie
  * Cause of a reset after an error.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnErrorCauseTag = 73 };
 
 typedef uint32_t TarnErrorCause;
 
@@ -1702,6 +1782,8 @@ uint32_t TarnIsErrorCauseIeValid(const void *container, const TarnErrorCauseIe *
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnPagingCauseTag = 74 };
+
 typedef uint32_t TarnPagingCause;
 
 typedef struct TarnPagingCauseIe {
@@ -1740,6 +1822,8 @@ uint32_t TarnIsPagingCauseIeValid(const void *container, const TarnPagingCauseIe
  * Paging record type identifier.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnPagingRecordTypeIndTag = 75 };
 
 typedef uint32_t TarnPagingRecordTypeInd;
 
@@ -1786,6 +1870,8 @@ uint32_t TarnIsPagingRecordTypeIndIeValid(const void *container,
  *
  * A uint16_t, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnDrxCycleLenCoeffTag = 76 };
+
 typedef uint16_t TarnDrxCycleLenCoeff;
 
 typedef struct TarnDrxCycleLenCoeffIe {
@@ -1828,6 +1914,8 @@ uint32_t TarnIsDrxCycleLenCoeffIeValid(const void *container, const TarnDrxCycle
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnTempUeIdTypeTag = 78 };
+
 typedef uint32_t TarnTempUeIdType;
 
 typedef struct TarnTempUeIdTypeIe {
@@ -1868,6 +1956,8 @@ uint32_t TarnIsTempUeIdTypeIeValid(const void *container, const TarnTempUeIdType
  *
  * A uint8_t, any value; 1 byte on the wire, 7 bytes with its header. */
 
+enum { TarnTosTag = 88 };
+
 typedef uint8_t TarnTos;
 
 typedef struct TarnTosIe {
@@ -1904,6 +1994,8 @@ uint32_t TarnIsTosIeValid(const void *container, const TarnTosIe *ie);
  * RTCP transmission interval.
  *
  * A uint16_t, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnRtcpTransIntervalTag = 89 };
 
 typedef uint16_t TarnRtcpTransInterval;
 
@@ -1947,6 +2039,8 @@ uint32_t TarnIsRtcpTransIntervalIeValid(const void *container, const TarnRtcpTra
  *
  * A uint16_t, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnJitterBufferSizeTag = 90 };
+
 typedef uint16_t TarnJitterBufferSize;
 
 typedef struct TarnJitterBufferSizeIe {
@@ -1989,6 +2083,8 @@ uint32_t TarnIsJitterBufferSizeIeValid(const void *container, const TarnJitterBu
  *
  * A uint8_t, any value; 1 byte on the wire, 7 bytes with its header. */
 
+enum { TarnRtpStreamIdTag = 91 };
+
 typedef uint8_t TarnRtpStreamId;
 
 typedef struct TarnRtpStreamIdIe {
@@ -2027,6 +2123,8 @@ uint32_t TarnIsRtpStreamIdIeValid(const void *container, const TarnRtpStreamIdIe
  * Result of a user plane configuration; 0 is success.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnUserPlaneResultTag = 93 };
 
 typedef uint32_t TarnUserPlaneResult;
 
@@ -2067,6 +2165,8 @@ uint32_t TarnIsUserPlaneResultIeValid(const void *container, const TarnUserPlane
  * Data volume unsuccessfully transferred, counted at RLC.
  *
  * A uint32_t, any value; 4 bytes on the wire, 10 bytes with its header. */
+
+enum { TarnUnSuccTransferAtRlcTag = 97 };
 
 typedef uint32_t TarnUnSuccTransferAtRlc;
 
@@ -2113,6 +2213,8 @@ uint32_t TarnIsUnSuccTransferAtRlcIeValid(const void *container,
  *
  * A uint32_t, any value; 4 bytes on the wire, 10 bytes with its header. */
 
+enum { TarnSuccTransferAtPsiwTag = 98 };
+
 typedef uint32_t TarnSuccTransferAtPsiw;
 
 typedef struct TarnSuccTransferAtPsiwIe {
@@ -2155,6 +2257,8 @@ uint32_t TarnIsSuccTransferAtPsiwIeValid(const void *container, const TarnSuccTr
  * Whether unsuccessfully transferred data volume is reported.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnDataVolReportingFlagTag = 99 };
 
 typedef uint32_t TarnDataVolReportingFlag;
 
@@ -2201,6 +2305,8 @@ uint32_t TarnIsDataVolReportingFlagIeValid(const void *container,
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnReset3GAPTag = 100 };
+
 typedef uint32_t TarnReset3GAP;
 
 typedef struct TarnReset3GAPIe {
@@ -2239,6 +2345,8 @@ uint32_t TarnIsReset3GAPIeValid(const void *container, const TarnReset3GAPIe *ie
  * Whether a response is expected.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnRespExpectedTag = 101 };
 
 typedef uint32_t TarnRespExpected;
 
@@ -2279,6 +2387,8 @@ uint32_t TarnIsRespExpectedIeValid(const void *container, const TarnRespExpected
  * Cause of a required relocation.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnRelocationRequiredCauseTag = 104 };
 
 typedef uint32_t TarnRelocationRequiredCause;
 
@@ -2326,6 +2436,8 @@ uint32_t TarnIsRelocationRequiredCauseIeValid(const void *container,
  *
  * A uint8_t, any value; 1 byte on the wire, 7 bytes with its header. */
 
+enum { TarnRACTag = 110 };
+
 typedef uint8_t TarnRAC;
 
 typedef struct TarnRACIe {
@@ -2362,6 +2474,8 @@ uint32_t TarnIsRACIeValid(const void *container, const TarnRACIe *ie);
  * RNC identifier; the bound takes in 4096, one more than 12 bits can carry.
  *
  * A uint16_t, 0 to 4096; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnRNCIdTag = 111 };
 
 typedef uint16_t TarnRNCId;
 
@@ -2402,6 +2516,8 @@ uint32_t TarnIsRNCIdIeValid(const void *container, const TarnRNCIdIe *ie);
  *
  * A uint32_t, 0 to 0x0FFFFFFF; 4 bytes on the wire, 10 bytes with its header. */
 
+enum { TarnTargetCellIdTag = 118 };
+
 typedef uint32_t TarnTargetCellId;
 
 typedef struct TarnTargetCellIdIe {
@@ -2441,6 +2557,8 @@ uint32_t TarnIsTargetCellIdIeValid(const void *container, const TarnTargetCellId
  * Cause of a failed relocation.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnRelocationFailureCauseTag = 119 };
 
 typedef uint32_t TarnRelocationFailureCause;
 
@@ -2487,6 +2605,8 @@ uint32_t TarnIsRelocationFailureCauseIeValid(const void *container,
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnHandoverFailureCauseTag = 126 };
+
 typedef uint32_t TarnHandoverFailureCause;
 
 typedef struct TarnHandoverFailureCauseIe {
@@ -2532,6 +2652,8 @@ uint32_t TarnIsHandoverFailureCauseIeValid(const void *container,
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnServiceHandoverTag = 127 };
+
 typedef uint32_t TarnServiceHandover;
 
 typedef struct TarnServiceHandoverIe {
@@ -2571,6 +2693,8 @@ uint32_t TarnIsServiceHandoverIeValid(const void *container, const TarnServiceHa
  * Cause of a handover request.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnHandoverRequestCauseTag = 128 };
 
 typedef uint32_t TarnHandoverRequestCause;
 
@@ -2617,6 +2741,8 @@ uint32_t TarnIsHandoverRequestCauseIeValid(const void *container,
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnRelocationCancelCauseTag = 130 };
+
 typedef uint32_t TarnRelocationCancelCause;
 
 typedef struct TarnRelocationCancelCauseIe {
@@ -2662,6 +2788,8 @@ uint32_t TarnIsRelocationCancelCauseIeValid(const void *container,
  *
  * A uint8_t, 1 to 2; 1 byte on the wire, 7 bytes with its header. */
 
+enum { TarnNumIuInstancesTag = 154 };
+
 typedef uint8_t TarnNumIuInstances;
 
 typedef struct TarnNumIuInstancesIe {
@@ -2702,6 +2830,8 @@ uint32_t TarnIsNumIuInstancesIeValid(const void *container, const TarnNumIuInsta
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnRelocationTypeTag = 155 };
+
 typedef uint32_t TarnRelocationType;
 
 typedef struct TarnRelocationTypeIe {
@@ -2741,6 +2871,8 @@ uint32_t TarnIsRelocationTypeIeValid(const void *container, const TarnRelocation
  * Encryption algorithm of the circuit switched user plane.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnCsUserEncryptAlgoTag = 157 };
 
 typedef uint32_t TarnCsUserEncryptAlgo;
 
@@ -2784,6 +2916,8 @@ uint32_t TarnIsCsUserEncryptAlgoIeValid(const void *container, const TarnCsUserE
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnPsUserEncryptAlgoTag = 158 };
+
 typedef uint32_t TarnPsUserEncryptAlgo;
 
 typedef struct TarnPsUserEncryptAlgoIe {
@@ -2826,6 +2960,8 @@ uint32_t TarnIsPsUserEncryptAlgoIeValid(const void *container, const TarnPsUserE
  *
  * A uint32_t, 0 to 8000000; 4 bytes on the wire, 10 bytes with its header. */
 
+enum { TarnMaxBitRateUplinkTag = 160 };
+
 typedef uint32_t TarnMaxBitRateUplink;
 
 typedef struct TarnMaxBitRateUplinkIe {
@@ -2867,6 +3003,8 @@ uint32_t TarnIsMaxBitRateUplinkIeValid(const void *container, const TarnMaxBitRa
  * Maximum downlink bit rate, bit/s; twice the uplink's bound.
  *
  * A uint32_t, 0 to 16000000; 4 bytes on the wire, 10 bytes with its header. */
+
+enum { TarnMaxBitRateDownlinkTag = 161 };
 
 typedef uint32_t TarnMaxBitRateDownlink;
 
@@ -2912,6 +3050,8 @@ uint32_t TarnIsMaxBitRateDownlinkIeValid(const void *container, const TarnMaxBit
  *
  * A uint32_t, 0 to 2097152; 4 bytes on the wire, 10 bytes with its header. */
 
+enum { TarnCpsSduMaxBitRateTag = 163 };
+
 typedef uint32_t TarnCpsSduMaxBitRate;
 
 typedef struct TarnCpsSduMaxBitRateIe {
@@ -2954,6 +3094,8 @@ uint32_t TarnIsCpsSduMaxBitRateIeValid(const void *container, const TarnCpsSduMa
  *
  * A uint32_t, 1 to 45; 4 bytes on the wire, 10 bytes with its header. */
 
+enum { TarnCpsSduMaxSizeTag = 164 };
+
 typedef uint32_t TarnCpsSduMaxSize;
 
 typedef struct TarnCpsSduMaxSizeIe {
@@ -2993,6 +3135,8 @@ uint32_t TarnIsCpsSduMaxSizeIeValid(const void *container, const TarnCpsSduMaxSi
  * Average CPS-SDU bit rate of an AAL2 link.
  *
  * A uint32_t, 0 to 2097152; 4 bytes on the wire, 10 bytes with its header. */
+
+enum { TarnCpsSduAvgBitRateTag = 165 };
 
 typedef uint32_t TarnCpsSduAvgBitRate;
 
@@ -3036,6 +3180,8 @@ uint32_t TarnIsCpsSduAvgBitRateIeValid(const void *container, const TarnCpsSduAv
  *
  * A uint32_t, 1 to 45; 4 bytes on the wire, 10 bytes with its header. */
 
+enum { TarnCpsSduAvgSizeTag = 166 };
+
 typedef uint32_t TarnCpsSduAvgSize;
 
 typedef struct TarnCpsSduAvgSizeIe {
@@ -3076,6 +3222,8 @@ uint32_t TarnIsCpsSduAvgSizeIeValid(const void *container, const TarnCpsSduAvgSi
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnLacMatchTag = 168 };
+
 typedef uint32_t TarnLacMatch;
 
 typedef struct TarnLacMatchIe {
@@ -3114,6 +3262,8 @@ uint32_t TarnIsLacMatchIeValid(const void *container, const TarnLacMatchIe *ie);
  * A second Iu release cause beside IuRelCause.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnIuRelCauseNewTag = 170 };
 
 typedef uint32_t TarnIuRelCauseNew;
 
@@ -3155,6 +3305,8 @@ uint32_t TarnIsIuRelCauseNewIeValid(const void *container, const TarnIuRelCauseN
  *
  * A uint32_t, any value; 4 bytes on the wire, 10 bytes with its header. */
 
+enum { TarnGtpTeidTag = 171 };
+
 typedef uint32_t TarnGtpTeid;
 
 typedef struct TarnGtpTeidIe {
@@ -3193,6 +3345,8 @@ uint32_t TarnIsGtpTeidIeValid(const void *container, const TarnGtpTeidIe *ie);
  * Period of GTP echo requests, seconds.
  *
  * A uint16_t, 60 to 600; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnGtpEchoPeriodTag = 172 };
 
 typedef uint16_t TarnGtpEchoPeriod;
 
@@ -3234,6 +3388,8 @@ uint32_t TarnIsGtpEchoPeriodIeValid(const void *container, const TarnGtpEchoPeri
  *
  * A uint16_t, any value; 2 bytes on the wire, 8 bytes with its header. */
 
+enum { TarnMuxUdpPortTag = 174 };
+
 typedef uint16_t TarnMuxUdpPort;
 
 typedef struct TarnMuxUdpPortIe {
@@ -3272,6 +3428,8 @@ uint32_t TarnIsMuxUdpPortIeValid(const void *container, const TarnMuxUdpPortIe *
  * Identity on which the intra-domain NAS node selection is based.
  *
  * A code word, any value; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnRoutingBasisTag = 175 };
 
 typedef uint32_t TarnRoutingBasis;
 
@@ -3312,6 +3470,8 @@ uint32_t TarnIsRoutingBasisIeValid(const void *container, const TarnRoutingBasis
  * Routing parameter of the intra-domain NAS node selection, 10 bits.
  *
  * A uint16_t, 0 to 1023; 2 bytes on the wire, 8 bytes with its header. */
+
+enum { TarnRoutingParameterTag = 176 };
 
 typedef uint16_t TarnRoutingParameter;
 
@@ -3477,6 +3637,8 @@ uint32_t TarnIsDataVolReportingValid(const TarnDataVolReporting *value);
  *
  * A byte string of 1 to 4095 bytes; 7 to 4101 bytes on the wire with its header. */
 
+enum { TarnNasMsgTag = 7 };
+
 typedef struct TarnNasMsg {
     uint32_t length;
     uint8_t bytes[4096];
@@ -3518,6 +3680,8 @@ uint32_t TarnIsNasMsgIeValid(const void *container, const TarnNasMsgIe *ie);
  * Integrity protection key (IK).
  *
  * A byte string of 16 bytes; 22 bytes on the wire with its header. */
+
+enum { TarnIntProtKeyTag = 13 };
 
 typedef struct TarnIntProtKey {
     uint32_t length;
@@ -3561,6 +3725,8 @@ uint32_t TarnIsIntProtKeyIeValid(const void *container, const TarnIntProtKeyIe *
  *
  * A byte string of 16 bytes; 22 bytes on the wire with its header. */
 
+enum { TarnEncryptKeyTag = 16 };
+
 typedef struct TarnEncryptKey {
     uint32_t length;
     uint8_t bytes[16];
@@ -3602,6 +3768,8 @@ uint32_t TarnIsEncryptKeyIeValid(const void *container, const TarnEncryptKeyIe *
  * Temporary UE identity (TMSI or P-TMSI).
  *
  * A byte string of 4 bytes; 10 bytes on the wire with its header. */
+
+enum { TarnTempUeIdValueTag = 79 };
 
 typedef struct TarnTempUeIdValue {
     uint32_t length;
@@ -3646,6 +3814,8 @@ uint32_t TarnIsTempUeIdValueIeValid(const void *container, const TarnTempUeIdVal
  *
  * A byte string of 0 to 16 bytes; 6 to 22 bytes on the wire with its header. */
 
+enum { TarnMasterKeyTag = 85 };
+
 typedef struct TarnMasterKey {
     uint32_t length;
     uint8_t bytes[16];
@@ -3687,6 +3857,8 @@ uint32_t TarnIsMasterKeyIeValid(const void *container, const TarnMasterKeyIe *ie
  * SRTP master salt.
  *
  * A byte string of 0 to 14 bytes; 6 to 20 bytes on the wire with its header. */
+
+enum { TarnMasterSaltTag = 86 };
 
 typedef struct TarnMasterSalt {
     uint32_t length;
@@ -3730,6 +3902,8 @@ uint32_t TarnIsMasterSaltIeValid(const void *container, const TarnMasterSaltIe *
  *
  * A byte string of 3 to 8 bytes; 9 to 14 bytes on the wire with its header. */
 
+enum { TarnNasUeIdTag = 92 };
+
 typedef struct TarnNasUeId {
     uint32_t length;
     uint8_t bytes[8];
@@ -3771,6 +3945,8 @@ uint32_t TarnIsNasUeIdIeValid(const void *container, const TarnNasUeIdIe *ie);
  * PLMN identity.
  *
  * A byte string of 3 bytes; 9 bytes on the wire with its header. */
+
+enum { TarnPLMNIdTag = 108 };
 
 typedef struct TarnPLMNId {
     uint32_t length;
@@ -3814,6 +3990,8 @@ uint32_t TarnIsPLMNIdIeValid(const void *container, const TarnPLMNIdIe *ie);
  *
  * A byte string of 2 bytes; 8 bytes on the wire with its header. */
 
+enum { TarnLACTag = 109 };
+
 typedef struct TarnLAC {
     uint32_t length;
     uint8_t bytes[2];
@@ -3854,6 +4032,8 @@ uint32_t TarnIsLACIeValid(const void *container, const TarnLACIe *ie);
  *
  * A byte string of 2 bytes; 8 bytes on the wire with its header. */
 
+enum { TarnCITag = 113 };
+
 typedef struct TarnCI {
     uint32_t length;
     uint8_t bytes[2];
@@ -3893,6 +4073,8 @@ uint32_t TarnIsCIIeValid(const void *container, const TarnCIIe *ie);
  * GSM mobile station classmark 2.
  *
  * A byte string of 0 to 5 bytes; 6 to 11 bytes on the wire with its header. */
+
+enum { TarnGsmClassmark2Tag = 114 };
 
 typedef struct TarnGsmClassmark2 {
     uint32_t length;
@@ -3937,6 +4119,8 @@ uint32_t TarnIsGsmClassmark2IeValid(const void *container, const TarnGsmClassmar
  *
  * A byte string of 1 to 32 bytes; 7 to 38 bytes on the wire with its header. */
 
+enum { TarnGsmClassmark3Tag = 115 };
+
 typedef struct TarnGsmClassmark3 {
     uint32_t length;
     uint8_t bytes[32];
@@ -3979,6 +4163,8 @@ uint32_t TarnIsGsmClassmark3IeValid(const void *container, const TarnGsmClassmar
  * RRC container, passed through.
  *
  * A byte string of 0 to 2000 bytes; 6 to 2006 bytes on the wire with its header. */
+
+enum { TarnRrcContainerTag = 117 };
 
 typedef struct TarnRrcContainer {
     uint32_t length;
@@ -4023,6 +4209,8 @@ uint32_t TarnIsRrcContainerIeValid(const void *container, const TarnRrcContainer
  *
  * A byte string of 0 to 255 bytes; 6 to 261 bytes on the wire with its header. */
 
+enum { TarnL3InformationTag = 120 };
+
 typedef struct TarnL3Information {
     uint32_t length;
     uint8_t bytes[255];
@@ -4065,6 +4253,8 @@ uint32_t TarnIsL3InformationIeValid(const void *container, const TarnL3Informati
  * Old BSS to new BSS information, passed through.
  *
  * A byte string of 0 to 255 bytes; 6 to 261 bytes on the wire with its header. */
+
+enum { TarnOldBssToNewBssInfoTag = 159 };
 
 typedef struct TarnOldBssToNewBssInfo {
     uint32_t length;
@@ -4113,6 +4303,8 @@ uint32_t TarnIsOldBssToNewBssInfoIeValid(const void *container, const TarnOldBss
  *
  * A byte string of 16 bytes; 22 bytes on the wire with its header. */
 
+enum { TarnImsiTag = 169 };
+
 typedef struct TarnImsi {
     uint32_t length;
     uint8_t bytes[16];
@@ -4157,6 +4349,8 @@ uint32_t TarnIsImsiIeValid(const void *container, const TarnImsiIe *ie);
  *
  * A record of IntProtAlgo (tag 12), IntProtKey (tag 13); 36 bytes on the wire with its header. */
 
+enum { TarnIntProtInfoTag = 11 };
+
 typedef struct TarnIntProtInfo {
     TarnIntProtAlgo IntProtAlgo;
     TarnIntProtKey IntProtKey;
@@ -4198,6 +4392,8 @@ uint32_t TarnIsIntProtInfoIeValid(const void *container, const TarnIntProtInfoIe
  * Permitted encryption algorithms.
  *
  * A list of 1 to 2 EncryptAlgo, each under tag 17; 14 to 22 bytes on the wire with its header. */
+
+enum { TarnEncryptAlgosTag = 15 };
 
 typedef struct TarnEncryptAlgos {
     uint32_t count;
@@ -4244,6 +4440,8 @@ uint32_t TarnIsEncryptAlgosIeValid(const void *container, const TarnEncryptAlgos
  * A record of EncryptAlgos (tag 15), EncryptKey (tag 16); 42 to 50 bytes on the wire with its
  * header. */
 
+enum { TarnEncryptInfoTag = 14 };
+
 typedef struct TarnEncryptInfo {
     TarnEncryptAlgos EncryptAlgos;
     TarnEncryptKey EncryptKey;
@@ -4286,6 +4484,8 @@ uint32_t TarnIsEncryptInfoIeValid(const void *container, const TarnEncryptInfoIe
  *
  * A record of UserPlaneMode (tag 20), UserPlaneModeVersions (tag 39); 22 bytes on the wire with its
  * header. */
+
+enum { TarnUserPlaneInfoTag = 32 };
 
 typedef struct TarnUserPlaneInfo {
     TarnUserPlaneMode UserPlaneMode;
@@ -4330,6 +4530,8 @@ uint32_t TarnIsUserPlaneInfoIeValid(const void *container, const TarnUserPlaneIn
  *
  * A record of Mantissa (tag 37), Exponent (tag 38); 20 bytes on the wire with its header. */
 
+enum { TarnBitErrRatioTag = 36 };
+
 typedef struct TarnBitErrRatio {
     TarnMantissa Mantissa;
     TarnExponent Exponent;
@@ -4372,6 +4574,8 @@ uint32_t TarnIsBitErrRatioIeValid(const void *container, const TarnBitErrRatioIe
  *
  * A record of PriorityLevel (tag 51), PreemptionCapability (tag 52), PreemptionVulnerability (tag
  * 53), QueuingAllowed (tag 54); 37 bytes on the wire with its header. */
+
+enum { TarnAllocRetPriorityTag = 50 };
 
 typedef struct TarnAllocRetPriority {
     TarnPriorityLevel PriorityLevel;
@@ -4421,6 +4625,8 @@ uint32_t TarnIsAllocRetPriorityIeValid(const void *container, const TarnAllocRet
  * A record of TempUeIdType (tag 78), TempUeIdValue (tag 79); 24 bytes on the wire with its
  * header. */
 
+enum { TarnTempUeIdTag = 77 };
+
 typedef struct TarnTempUeId {
     TarnTempUeIdType TempUeIdType;
     TarnTempUeIdValue TempUeIdValue;
@@ -4463,6 +4669,8 @@ uint32_t TarnIsTempUeIdIeValid(const void *container, const TarnTempUeIdIe *ie);
  *
  * A record of MasterKey (tag 85), MasterSalt (tag 86); 18 to 48 bytes on the wire with its
  * header. */
+
+enum { TarnRtpSecurityInfoTag = 84 };
 
 typedef struct TarnRtpSecurityInfo {
     TarnMasterKey MasterKey;
@@ -4507,6 +4715,8 @@ uint32_t TarnIsRtpSecurityInfoIeValid(const void *container, const TarnRtpSecuri
  *
  * A record of PLMNId (tag 108), LAC (tag 109); 23 bytes on the wire with its header. */
 
+enum { TarnLAITag = 107 };
+
 typedef struct TarnLAI {
     TarnPLMNId PLMNId;
     TarnLAC LAC;
@@ -4547,6 +4757,8 @@ uint32_t TarnIsLAIIeValid(const void *container, const TarnLAIIe *ie);
  *
  * A record of PLMNId (tag 108), LAC (tag 109), CI (tag 113); 31 bytes on the wire with its
  * header. */
+
+enum { TarnTargetCGITag = 112 };
 
 typedef struct TarnTargetCGI {
     TarnPLMNId PLMNId;
@@ -4591,6 +4803,8 @@ uint32_t TarnIsTargetCGIIeValid(const void *container, const TarnTargetCGIIe *ie
  *
  * A record of CpsSduMaxBitRate (tag 163), CpsSduMaxSize (tag 164), CpsSduAvgBitRate (tag 165),
  * CpsSduAvgSize (tag 166); 46 bytes on the wire with its header. */
+
+enum { TarnAlcapLinkCharacteristicsTag = 162 };
 
 typedef struct TarnAlcapLinkCharacteristics {
     TarnCpsSduMaxBitRate CpsSduMaxBitRate;
@@ -4643,6 +4857,8 @@ uint32_t TarnIsAlcapLinkCharacteristicsIeValid(const void *container,
  *
  * A record of RoutingBasis (tag 175), RoutingParameter (tag 176); 22 bytes on the wire with its
  * header. */
+
+enum { TarnIdnnsTag = 177 };
 
 typedef struct TarnIdnns {
     TarnRoutingBasis RoutingBasis;
@@ -4741,6 +4957,8 @@ uint32_t TarnIsRabReleaseInfoValid(const TarnRabReleaseInfo *value);
  *
  * A list of 1 to 3 RabId, each under tag 23; 13 to 27 bytes on the wire with its header. */
 
+enum { TarnRabIdListTag = 167 };
+
 typedef struct TarnRabIdList {
     uint32_t count;
     TarnRabId items[3];
@@ -4812,6 +5030,8 @@ uint32_t TarnIsHandoutRabReleaseInfoValid(const TarnHandoutRabReleaseInfo *value
  *
  * A list of 4 IpAddressByte, each under tag 61; 34 bytes on the wire with its header. */
 
+enum { TarnIpAddressTag = 60 };
+
 typedef struct TarnIpAddress {
     uint32_t count;
     TarnIpAddressByte items[4];
@@ -4881,6 +5101,8 @@ uint32_t TarnIsIapTransLayerInfoValid(const TarnIapTransLayerInfo *value);
  *
  * A list of 0 to 2 BitRate, each under tag 31; 6 to 26 bytes on the wire with its header. */
 
+enum { TarnBitRatesTag = 30 };
+
 typedef struct TarnBitRates {
     uint32_t count;
     TarnBitRate items[2];
@@ -4923,6 +5145,8 @@ uint32_t TarnIsBitRatesIeValid(const void *container, const TarnBitRatesIe *ie);
  * PDP type information.
  *
  * A list of 0 to 2 PdpTypeInfo, each under tag 46; 6 to 22 bytes on the wire with its header. */
+
+enum { TarnPdpTypeInfoListTag = 45 };
 
 typedef struct TarnPdpTypeInfoList {
     uint32_t count;
@@ -4968,6 +5192,8 @@ uint32_t TarnIsPdpTypeInfoListIeValid(const void *container, const TarnPdpTypeIn
  *
  * A list of 0 to 3 RabSetupFailedInfo, each under tag 64; 6 to 69 bytes on the wire with its
  * header. */
+
+enum { TarnRabSetupFailedListTag = 63 };
 
 typedef struct TarnRabSetupFailedList {
     uint32_t count;
@@ -5016,6 +5242,8 @@ uint32_t TarnIsRabSetupFailedListIeValid(const void *container, const TarnRabSet
  *
  * A list of 0 to 3 RabReleaseInfo, each under tag 67; 6 to 69 bytes on the wire with its header. */
 
+enum { TarnRabReleaseListTag = 66 };
+
 typedef struct TarnRabReleaseList {
     uint32_t count;
     TarnRabReleaseInfo items[3];
@@ -5060,6 +5288,8 @@ uint32_t TarnIsRabReleaseListIeValid(const void *container, const TarnRabRelease
  *
  * A list of 1 to 2 HandoutRabReleaseInfo, each under tag 122; 33 to 88 bytes on the wire with its
  * header. */
+
+enum { TarnHandoutRabReleaseListTag = 121 };
 
 typedef struct TarnHandoutRabReleaseList {
     uint32_t count;

@@ -9,7 +9,7 @@ namespace {
 
 constexpr const char *contract =
     R"(The composite IEs: IEs whose value is other IEs, their children. For each composite IE C stand here
-its IE object type TarnCIe, its record type TarnCRecord, and its operations.
+its tag TarnCTag, its IE object type TarnCIe, its record type TarnCRecord, and its operations.
 
 A sequence has a fixed table of children, given in its comment in wire order with the mandatory ones
 first. A list repeats one composite element.
@@ -107,6 +107,7 @@ std::string layoutText(const Catalogue &catalogue, const Composite &row) {
 }
 
 void writeTypes(Page &page, const Composite &row) {
+    page.constants({{"Tarn" + row.name + "Tag", std::to_string(row.tag)}});
     page.structure("Tarn" + row.name + "Ie", {{"TarnIe ie", ""}, {"VelDllHead children", ""}});
     std::vector<Member> members;
     if (row.isList()) {
@@ -116,6 +117,8 @@ void writeTypes(Page &page, const Composite &row) {
         addSlotMembers(members, row.slots);
     }
     page.structure("Tarn" + row.name + "Record", members);
+    if (!row.isList())
+        page.constants(presenceConstants(row.name, row.slots));
 }
 
 std::vector<Slot> childrenOf(const Composite &row) {

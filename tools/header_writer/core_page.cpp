@@ -29,7 +29,7 @@ To receive, unpack the bytes, extract what is needed, delete the message object:
 
   TarnMsg *msg;
   if (TarnUnpackNewMsg(buffer, length, &msg)) {
-      if (msg->messageId == 30)
+      if (msg->messageId == TarnHandoverDetectMsgId)
           TarnExtractSrntiFromHandoverDetectMsg(msg, &srnti);
       TarnDeleteMsg(msg);
   }

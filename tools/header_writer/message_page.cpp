@@ -8,7 +8,7 @@ namespace header_writer {
 namespace {
 
 constexpr const char *contract =
-    R"(The messages. For each message M stand here its record type TarnMRecord and its operations, on
+    R"(The messages. For each message M stand here its id TarnMMsgId, its record type TarnMRecord and its operations, on
 message objects and, in one call, on the record. Its comment gives its IEs in wire order with the
 mandatory ones first; before them all stands the MessageId IE (tag 72, one byte: the message's id).
 
@@ -43,8 +43,8 @@ IE that is so is left out, and the next one is tried at the same place. Bytes be
 taken are ignored. Where the message is not known beforehand, use TarnUnpackNewMsg (tarn_if.h).
 
 TarnMRecord is the message as a plain record: its id, a presence mask in which each optional or
-conditional IE has the bit that stands beside its member, and one member per IE in the order of the
-table. A composite IE's member is its own record, with a count where elements repeat and a presence
+conditional IE has the bit that stands beside its member (TarnMHasS for the member S), and one
+member per IE in the order of the table. A composite IE's member is its own record, with a count where elements repeat and a presence
 mask where children are optional. Records belong to the caller and hold no pointers. Those with
 nested lists are large.
 
@@ -124,6 +124,7 @@ void writeRecord(Page &page, const Message &row) {
     std::vector<Member> members = {{"uint8_t MessageId", ""}};
     addSlotMembers(members, row.slots);
     page.structure("Tarn" + row.name + "Record", members);
+    page.constants(presenceConstants(row.name, row.slots));
 }
 
 const std::vector<Slot> messageId = {
@@ -163,6 +164,7 @@ Page messageHeader(const Catalogue &catalogue) {
                      {"tarn_if_composite_ies.h"});
     for (const Message &row : catalogue.messages) {
         writeEntry(page, catalogue, row);
+        page.constants({{"Tarn" + row.name + "MsgId", std::to_string(row.id)}});
         writeRecord(page, row);
         writeObjectOperations(page, row);
         writeRecordOperations(page, row);

@@ -167,6 +167,20 @@ void Page::structure(const std::string &name, const std::vector<Member> &members
     line();
 }
 
+void Page::constants(const std::vector<Constant> &constants) {
+    if (constants.empty())
+        return;
+    if (constants.size() == 1) {
+        line("enum { " + constants[0].name + " = " + constants[0].value + " };");
+    } else {
+        line("enum {");
+        for (const Constant &constant : constants)
+            line("    " + constant.name + " = " + constant.value + ",");
+        line("};");
+    }
+    line();
+}
+
 void Page::function(const std::string &result, const std::string &name,
                     const std::vector<std::string> &parameters, std::string_view does) {
     comment(name + " " + std::string(does));

@@ -15,6 +15,12 @@ struct Member {
     std::string comment;
 };
 
+// A name for a number of the protocol.
+struct Constant {
+    std::string name;
+    std::string value;
+};
+
 class Page {
 public:
     // Writes one line as it is.
@@ -33,6 +39,9 @@ public:
 
     // Writes a struct and its typedef of the same name.
     void structure(const std::string &name, const std::vector<Member> &members);
+
+    // Writes an enumeration without a name; nothing for none.
+    void constants(const std::vector<Constant> &constants);
 
     // Writes a prototype beneath its comment, which is the function's name and `does`.
     void function(const std::string &result, const std::string &name,

@@ -27,6 +27,9 @@ std::string slotTable(const Catalogue &catalogue, const std::vector<Slot> &slots
 // Adds the presence mask and one member per slot to those of the owner's record.
 void addSlotMembers(std::vector<Member> &members, const std::vector<Slot> &slots);
 
+// Names for the bits of the presence mask of the record that belongs to `owner`.
+std::vector<Constant> presenceConstants(const std::string &owner, const std::vector<Slot> &slots);
+
 // What children are appended to and extracted from, as its operations name it.
 struct Parent {
     std::string name;           // "RabParamsIe", "ResetMsg"

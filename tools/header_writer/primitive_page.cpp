@@ -9,7 +9,7 @@ namespace {
 
 constexpr const char *contract =
     R"(The primitive IEs: IEs that hold a value. For each IE X stand here its value type TarnX, its IE
-object type TarnXIe, and seven operations. Some types travel only inside others or have no tag at
+object type TarnXIe, its tag TarnXTag, and seven operations. Some types travel only inside others or have no tag at
 all; these have no IE object and only the first four operations.
 
 Values come in four shapes:
@@ -257,6 +257,8 @@ Page primitiveHeader(const Catalogue &catalogue) {
             page.chapter(section);
         }
         writeEntry(page, catalogue, row);
+        if (row.form == Form::ie)
+            page.constants({{"Tarn" + row.name + "Tag", std::to_string(row.tag)}});
         writeValueType(page, row);
         if (row.form == Form::ie)
             page.structure("Tarn" + row.name + "Ie",

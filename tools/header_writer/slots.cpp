@@ -42,6 +42,15 @@ void addSlotMembers(std::vector<Member> &members, const std::vector<Slot> &slots
              bits[i] == 0 ? "" : bitText(bits[i])});
 }
 
+std::vector<Constant> presenceConstants(const std::string &owner, const std::vector<Slot> &slots) {
+    const std::vector<uint32_t> bits = presenceBits(slots);
+    std::vector<Constant> constants;
+    for (size_t i = 0; i < slots.size(); ++i)
+        if (bits[i] != 0)
+            constants.push_back({"Tarn" + owner + "Has" + slots[i].member, bitText(bits[i])});
+    return constants;
+}
+
 namespace {
 
 void writeValueOperations(Page &page, const std::string &child, const Parent &parent) {
