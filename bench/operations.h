@@ -1,0 +1,26 @@
+// Everything that is measured, as one table: each of the four messages, encoded and decoded, on
+// each road and by each yardstick.
+#ifndef TARN_BENCH_OPERATIONS_H
+#define TARN_BENCH_OPERATIONS_H
+
+#include <string>
+#include <vector>
+
+namespace bench {
+
+struct Operation {
+    std::string name; // message/direction/road
+    void (*run)();
+};
+
+// Roads: "objects" and "one call" are the library's, "floor" is the floor of the objects (see
+// floor/floor.h), "nanopb" and "protobuf-c" carry the same content. Null runs do not occur.
+const std::vector<Operation> &operations();
+
+// Runs each operation once and compares what it made with what the library's one call makes. Prints
+// each difference; true when there is none.
+bool all_agree();
+
+} // namespace bench
+
+#endif

@@ -1,0 +1,41 @@
+#!/bin/sh
+# Builds the benchmarks, runs them, and prints time and instructions of each operation beside its
+# floor, and instructions per IE as messages grow.
+#
+#   scripts/bench.sh                   all of it
+#   scripts/bench.sh profile NAME      where an operation's instructions go, by function, e.g.
+#                                      "RabAssignmentRequest/decode/objects"
+set -eu
+cd "$(dirname "$0")/.."
+build=${TARN_BENCH_BUILD:-build/bench}
+
+mkdir -p build
+cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DTARN_BENCH=ON -DTARN_EXAMPLES=OFF \
+    -DTARN_TESTS=OFF >"$build.log"
+cmake --build "$build" --target tarn_time tarn_count tarn_linearity >>"$build.log"
+
+# count PROGRAM: runs it under callgrind, which leaves one dump for each of its measurements.
+count() {
+    rm -f "$build/$1.callgrind"*
+    valgrind --tool=callgrind --callgrind-out-file="$build/$1.callgrind" "$build/bench/$1" \
+        >"$build/$1.log" 2>&1 || { cat "$build/$1.log" >&2; exit 1; }
+}
+
+count tarn_count
+if [ "${1:-}" = profile ]; then
+    callgrind_annotate --threshold=100 \
+        "$(grep -lx "desc: Trigger: Client Request: $2/2" "$build"/tarn_count.callgrind*)" |
+        grep -v "main\|ld-linux"
+    exit
+fi
+# Repetitions in random order, so that a busy moment does not fall on one operation alone; several
+# processes, since how the buffers lie against each other in memory tells on the copies.
+for process in 1 2 3 4 5; do
+    "$build/bench/tarn_time" --benchmark_repetitions=7 --benchmark_min_time=0.02 \
+        --benchmark_enable_random_interleaving=true --benchmark_report_aggregates_only=true \
+        --benchmark_out_format=json --benchmark_out="$build/times.$process.json" \
+        >"$build/tarn_time.log" 2>&1
+done
+count tarn_linearity
+python3 bench/compare.py operations "$build/tarn_count.callgrind" "$build"/times.?.json
+python3 bench/compare.py linearity "$build/tarn_linearity.callgrind"

@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# Runs the tests that use several threads under ThreadSanitizer, in build/threads.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+build=build/threads
+cmake -S . -B $build -G Ninja -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \
+    -DCMAKE_BUILD_TYPE=Debug -DCMAKE_C_FLAGS_DEBUG="-O1 -g" -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g" \
+    -DTARN_SANITIZE=thread -DTARN_EXAMPLES=OFF >/dev/null
+cmake --build $build --target threads_test host_test -- --quiet
+
+# ThreadSanitizer maps its shadow memory at fixed addresses, which some kernels' wide address
+# randomisation takes first.
+for test in threads/threads_test host/host_test; do
+    TSAN_OPTIONS="halt_on_error=1" setarch "$(uname -m)" -R $build/tests/$test --gtest_brief=1
+done
