@@ -69,6 +69,6 @@ inline void link_ie(VelDllHead *list, TarnIe *ie, Caller caller) {
     xVelDllAddToTail(list, &ie->node, caller.module, caller.line);
 }
 
-} // namespace gnu::visibility("hidden")]]tarn
+} // namespace tarn
 
 #endif

@@ -39,23 +39,29 @@ enum MemberNumber : int {
     memberCount
 };
 
+// Each owner's rule, for its slots.
+#define SEQUENCE(name_, tag_, rule_, term_) constexpr auto rule##name_ = UnpackRule::rule_;
+#include "catalogue/composite_ies.def"
+#define MESSAGE(name_, id_, rule_, ...) constexpr auto rule##name_ = UnpackRule::rule_;
+#include "catalogue/messages.def"
+
 // ---- Filling the tables ------------------------------------------------------------------------
 
 constexpr void add_slot(Catalogue &c, int number, int ownerBegin, TypeId type, Presence presence,
-                        ConditionId condition, size_t offset) {
+                        ConditionId condition, UnpackRule rule, size_t offset) {
     unsigned bit = 0x80;
     for (int i = ownerBegin; i < number; ++i)
         if (c.slots[i].presence != Presence::mandatory)
             bit >>= 1;
     if (presence == Presence::mandatory)
         bit = 0;
-    c.slots[number] = Slot{type, presence, condition, uint8_t(bit), uint16_t(offset)};
+    c.slots[number] = {type, Kind::none, presence, condition, rule, uint8_t(bit), uint16_t(offset)};
 }
 
 constexpr void add_slots(Catalogue &c) {
 #define SLOT_(owner_, type_, member_, presence_, condition_)                                       \
     add_slot(c, slot##owner_##member_, begin##owner_, type##type_, Presence::presence_,            \
-             condition_, offsetof(Tarn##owner_##Record, member_));
+             condition_, rule##owner_, offsetof(Tarn##owner_##Record, member_));
 #define PRIMITIVE_SLOT(owner_, child_, presence_, condition_)                                      \
     SLOT_(owner_, child_, child_, presence_, condition_)
 #define COMPOSITE_SLOT(owner_, child_, presence_, condition_)                                      \
@@ -74,27 +80,38 @@ constexpr void add_slots(Catalogue &c) {
 
 constexpr void add_members(Catalogue &c) {
 #define MEMBER(name_, member_)                                                                     \
-    c.members[member##name_##member_] = Member{type##member_, offsetof(Tarn##name_, member_)};
+    c.members[member##name_##member_] =                                                            \
+        Member{type##member_, Kind::none, offsetof(Tarn##name_, member_)};
 #include "catalogue/primitive_ies.def"
 }
 
-constexpr SlotTable slot_table(const Catalogue &c, int begin, int end, UnpackRule rule) {
-    SlotTable table{uint16_t(begin), uint8_t(end - begin), 0, rule, false};
-    for (int i = begin; i < end; ++i) {
+constexpr SlotTable slot_table(const Catalogue &c, int begin, int end) {
+    SlotTable table{uint16_t(begin), uint8_t(end - begin), 0};
+    for (int i = begin; i < end; ++i)
         table.mandatory = uint8_t(table.mandatory + (c.slots[i].presence == Presence::mandatory));
-        table.repeats = c.slots[i].presence == Presence::repeated;
-    }
     return table;
+}
+
+constexpr void set_range(Type &type, uint32_t least, uint32_t greatest) {
+    if (least > 63) // the field's six bits; a row beyond them does not compile
+        __builtin_unreachable();
+    type.least = least & 63;
+    type.greatest = greatest;
+}
+
+constexpr Kind number_kind(size_t size, unsigned width) {
+    if (size == 4)
+        return width == 4 ? Kind::number32 : Kind::code;
+    return size == 2 ? Kind::number16 : Kind::number8;
 }
 
 constexpr Type scalar(size_t size, unsigned width, uint32_t least, uint32_t greatest, bool hasIe) {
     Type type{};
-    type.kind = Kind::scalar;
+    type.kind = number_kind(size, width);
     type.valueSize = uint16_t(size);
     type.fixedSize = uint16_t(width);
-    type.least = least;
-    type.greatest = greatest;
-    type.hasIe = hasIe;
+    set_range(type, least, greatest);
+    type.hasIe = hasIe ? 1 : 0;
     return type;
 }
 
@@ -103,9 +120,8 @@ constexpr Type bytes(size_t size, unsigned capacity, uint32_t least, uint32_t gr
     type.kind = Kind::bytes;
     type.valueSize = uint16_t(size);
     type.capacity = uint16_t(capacity);
-    type.least = least;
-    type.greatest = greatest;
-    type.hasIe = true;
+    set_range(type, least, greatest);
+    type.hasIe = 1;
     return type;
 }
 
@@ -114,7 +130,7 @@ constexpr Type record(size_t size, int firstMember, bool hasIe) {
     type.kind = Kind::record;
     type.valueSize = uint16_t(size);
     type.slots.first = uint16_t(firstMember);
-    type.hasIe = hasIe;
+    type.hasIe = hasIe ? 1 : 0;
     return type;
 }
 
@@ -123,13 +139,10 @@ constexpr Type list(Kind kind, size_t size, TypeId item, size_t stride, size_t i
     Type type{};
     type.kind = kind;
     type.valueSize = uint16_t(size);
-    type.item = item;
-    type.stride = uint16_t(stride);
-    type.itemsOffset = uint8_t(itemsOffset);
+    type.array = Array{item, uint8_t(itemsOffset), uint16_t(stride)};
     type.capacity = uint16_t(capacity);
-    type.least = least;
-    type.greatest = greatest;
-    type.hasIe = true;
+    set_range(type, least, greatest);
+    type.hasIe = 1;
     return type;
 }
 
@@ -138,7 +151,7 @@ constexpr Type sequence(const SlotTable &slots) {
     type.kind = Kind::sequence;
     type.valueSize = sizeof(VelDllHead);
     type.slots = slots;
-    type.hasIe = true;
+    type.hasIe = 1;
     return type;
 }
 
@@ -162,7 +175,7 @@ constexpr void add_types(Catalogue &c) {
                                 offsetof(Tarn##name_, items), capacity_, least_, greatest_);
 #include "catalogue/primitive_ies.def"
 #define SEQUENCE(name_, tag_, rule_, term_)                                                        \
-    c.types[type##name_] = sequence(slot_table(c, begin##name_, end##name_, UnpackRule::rule_));
+    c.types[type##name_] = sequence(slot_table(c, begin##name_, end##name_));
 #define COMPOSITE_LIST(name_, tag_, element_, least_, greatest_, term_)                            \
     c.types[type##name_] = list(                                                                   \
         Kind::compositeList, sizeof(VelDllHead), type##element_, sizeof(Tarn##element_##Record),   \
@@ -186,10 +199,36 @@ constexpr void add_fixed_sizes(Catalogue &c) {
     }
 }
 
+constexpr void add_kinds(Catalogue &c) {
+    for (Slot &slot : c.slots)
+        slot.kind = c.types[slot.type].kind;
+    for (Member &member : c.members)
+        member.kind = c.types[member.type].kind;
+}
+
+constexpr bool accepts_all(const Catalogue &c, const Type &type) {
+    if (is_number(type.kind)) {
+        const unsigned bits = 8U * type.valueSize;
+        return type.least == 0 && type.greatest == UINT32_MAX >> (32 - bits);
+    }
+    if (type.kind != Kind::record)
+        return false;
+    for (unsigned i = 0; i < type.slots.count; ++i)
+        if (!accepts_all(c, c.types[c.members[type.slots.first + i].type]))
+            return false;
+    return true;
+}
+
+constexpr void add_acceptance(Catalogue &c) {
+    for (Type &type : c.types)
+        if (type.kind == Kind::record || (is_number(type.kind) && type.kind != Kind::none))
+            type.acceptsAll = accepts_all(c, type) ? 1 : 0;
+}
+
 constexpr void add_messages(Catalogue &c) {
 #define MESSAGE(name_, id_, rule_, append_token_, validity_token_, pack_token_, term_)             \
-    c.messages[id_] = Message{slot_table(c, begin##name_, end##name_, UnpackRule::rule_),          \
-                              append_token_, validity_token_, pack_token_};
+    c.messages[id_] = Message{slot_table(c, begin##name_, end##name_), append_token_,              \
+                              validity_token_, pack_token_};
 #include "catalogue/messages.def"
 }
 
@@ -209,6 +248,8 @@ constexpr Catalogue make_catalogue() {
     add_slots(c);
     add_types(c);
     add_fixed_sizes(c);
+    add_kinds(c);
+    add_acceptance(c);
     add_messages(c);
     add_conditions(c);
     return c;
@@ -253,10 +294,15 @@ static_assert(tags_are_unique());
 constexpr unsigned count_types(Kind kind, bool hasIe) {
     unsigned count = 0;
     for (const Type &type : catalogue.types)
-        count += type.kind == kind && type.hasIe == hasIe;
+        count += type.kind == kind && (type.hasIe != 0) == hasIe;
     return count;
 }
-static_assert(count_types(Kind::scalar, true) == 80 && count_types(Kind::scalar, false) == 5);
+
+constexpr unsigned count_numbers(bool hasIe) {
+    return count_types(Kind::number8, hasIe) + count_types(Kind::number16, hasIe) +
+           count_types(Kind::code, hasIe) + count_types(Kind::number32, hasIe);
+}
+static_assert(count_numbers(true) == 80 && count_numbers(false) == 5);
 static_assert(count_types(Kind::bytes, true) == 16);
 static_assert(count_types(Kind::record, true) == 11 && count_types(Kind::record, false) == 4);
 static_assert(count_types(Kind::list, true) == 8);
@@ -264,14 +310,20 @@ static_assert(count_types(Kind::sequence, true) == 13);
 static_assert(count_types(Kind::compositeList, true) == 7);
 
 constexpr bool range_holds(const Type &type) {
-    if (type.kind == Kind::scalar) {
-        const bool codeWord = type.valueSize == 4 && type.fixedSize == 2;
-        const uint64_t wire = (uint64_t{1} << (8 * type.fixedSize)) - 1;
-        return codeWord ? type.greatest == UINT32_MAX : type.greatest <= wire;
-    }
-    if (type.kind == Kind::bytes || type.kind == Kind::list || type.kind == Kind::compositeList)
+    switch (type.kind) {
+    case Kind::number8:
+        return type.greatest <= UINT8_MAX;
+    case Kind::number16:
+        return type.greatest <= UINT16_MAX;
+    case Kind::code: // whatever stands above the 16 bits that travel
+        return type.least == 0 && type.greatest == UINT32_MAX;
+    case Kind::bytes:
+    case Kind::list:
+    case Kind::compositeList:
         return type.greatest <= type.capacity;
-    return true;
+    default:
+        return true;
+    }
 }
 
 constexpr bool list_values_fit() {

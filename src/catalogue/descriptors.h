@@ -30,6 +30,14 @@ enum TypeId : uint8_t {
     typeCount
 };
 
+// Built for size (-Os), the engine goes the general way for everything; built for speed, it has
+// short ways for numbers, which are most of what travels.
+#ifdef __OPTIMIZE_SIZE__
+inline constexpr bool builtForSpeed = false;
+#else
+inline constexpr bool builtForSpeed = true;
+#endif
+
 enum MessageNumber : uint8_t {
 #define MESSAGE(name_, id_, ...) message##name_ = id_,
 #include "catalogue/messages.def"
@@ -43,7 +51,27 @@ enum ConditionId : uint8_t {
     always, // no condition at all
 };
 
-enum class Kind : uint8_t { none, scalar, bytes, record, list, sequence, compositeList };
+// Numbers come first, so that one comparison tells them from the rest, and composites last.
+enum class Kind : uint8_t {
+    none,
+    number8,
+    number16,
+    code, // 16 bits on the wire, 32 in memory
+    number32,
+    bytes,
+    record,
+    list,
+    sequence,
+    compositeList,
+};
+
+inline constexpr bool is_number(Kind kind) {
+    return kind <= Kind::number32;
+}
+
+inline constexpr bool is_composite(Kind kind) {
+    return kind >= Kind::sequence;
+}
 
 enum class Presence : uint8_t {
     mandatory,
@@ -72,15 +100,15 @@ struct SlotTable {
     uint16_t first;
     uint8_t count;
     uint8_t mandatory;
-    UnpackRule rule;
-    bool repeats; // the last slot is a repeated one
 };
 
 // One place of a sequence composite or a message.
 struct Slot {
     TypeId type;
+    Kind kind; // of the type
     Presence presence;
     ConditionId condition;
+    UnpackRule rule;       // of the owner, where the slot is conditional
     uint8_t presenceBit;   // in the record's presence mask; 0 for a mandatory slot
     uint16_t recordOffset; // of the member in the owner's record
 };
@@ -88,22 +116,32 @@ struct Slot {
 // One member of a record value.
 struct Member {
     TypeId type;
+    Kind kind;       // of the type
     uint16_t offset; // in the value
 };
 
+// The array in a list's value, or in the record of a list composite.
+struct Array {
+    TypeId item;
+    uint8_t offset;  // of the array in the value or record
+    uint16_t stride; // bytes from one element to the next
+};
+
 struct Type {
-    uint32_t least;     // scalar: value; byte string: length; lists: count
-    uint32_t greatest;  //
+    uint32_t greatest;      // number: value; byte string: length; lists: count
+    uint8_t least : 6;      // likewise; a GTP echo period's 60 is the greatest of them
+    uint8_t hasIe : 1;      // 0 for types that are never IEs of their own
+    uint8_t acceptsAll : 1; // number, record: every value is valid
+    Kind kind;
     uint16_t valueSize; // bytes that follow the head in an IE object
     uint16_t capacity;  // byte string, lists: elements of the array
-    uint16_t stride;    // lists: bytes from one array element to the next
     uint16_t fixedSize; // value bytes on the wire where they are always the same, else 0
-    SlotTable slots;    // sequence: its slots; record: its members
-    Kind kind;
-    TypeId item;         // lists: the item or element
-    uint8_t itemsOffset; // lists: of the array in the value or record
-    bool hasIe;          // false for types that are never IEs of their own
+    union {
+        SlotTable slots; // sequence: its slots; record: its members
+        Array array;     // lists
+    };
 };
+static_assert(sizeof(Type) == 16, "a type is found by a shift of its tag");
 
 struct Message {
     SlotTable slots;
@@ -147,10 +185,6 @@ inline bool is_composite(const Type &type) {
     return type.kind >= Kind::sequence;
 }
 
-inline const Slot &slot_at(const SlotTable &table, unsigned index) {
-    return catalogue.slots[table.first + index];
-}
-
-} // namespace gnu::visibility("hidden")]]tarn
+} // namespace tarn
 
 #endif

@@ -7,17 +7,16 @@ using namespace tarn;
 #define NEW_DOOR(name_)                                                                            \
     Tarn##name_##Ie *TarnNew##name_##Ie(void) {                                                    \
         return reinterpret_cast<Tarn##name_##Ie *>(                                                \
-            create_ie(type##name_, TARN_CALLER(moduleApi)));                                       \
+            create_composite(type##name_, TARN_CALLER(moduleApi)));                                \
     }
 
 #define COMPOSITE_CHILD_DOORS(owner_, child_)                                                      \
     uint32_t TarnAppend##child_##IeTo##owner_##Ie(Tarn##owner_##Ie *ie, Tarn##child_##Ie *child) { \
-        return link_to_composite(head_of(ie), head_of(child));                                     \
+        return link(head_of(ie), head_of(child));                                                  \
     }                                                                                              \
     uint32_t TarnExtract##child_##IeFrom##owner_##Ie(Tarn##owner_##Ie *ie,                         \
                                                      Tarn##child_##Ie **child) {                   \
-        return borrow_from_composite(head_of(ie), reinterpret_cast<TarnIe **>(child),              \
-                                     type##child_);                                                \
+        return borrow(head_of(ie), reinterpret_cast<TarnIe **>(child), type##child_);              \
     }
 
 #define SEQUENCE(name_, ...) NEW_DOOR(name_)
@@ -26,10 +25,10 @@ using namespace tarn;
     COMPOSITE_CHILD_DOORS(name_, element_)
 #define PRIMITIVE_SLOT(owner_, child_, ...)                                                        \
     uint32_t TarnAppend##child_##To##owner_##Ie(Tarn##owner_##Ie *ie, const Tarn##child_ *value) { \
-        return append_to_composite(head_of(ie), value, type##child_);                              \
+        return append(head_of(ie), value, type##child_);                                           \
     }                                                                                              \
     uint32_t TarnExtract##child_##From##owner_##Ie(Tarn##owner_##Ie *ie, Tarn##child_ *value) {    \
-        return extract_from_composite(head_of(ie), value, type##child_);                           \
+        return extract(head_of(ie), value, type##child_);                                          \
     }
 #define COMPOSITE_SLOT(owner_, child_, ...) COMPOSITE_CHILD_DOORS(owner_, child_)
 #include "catalogue/composite_ies.def"

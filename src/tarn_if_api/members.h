@@ -13,17 +13,37 @@ namespace [[gnu::visibility("hidden")]] tarn {
 // value out of range, with the list as it was. Position and duplicates are the validators' affair.
 bool append_copy(VelDllHead *list, TypeId id, const void *value, Caller caller);
 
-// The operations of the public interface, by kind of owner and of child.
-uint32_t append_to_msg(TarnMsg *msg, const void *value, TypeId id);
-uint32_t append_message_id(TarnMsg *msg, const TarnMessageId *value);
-uint32_t append_to_composite(TarnIe *owner, const void *value, TypeId id);
-uint32_t link_to_msg(TarnMsg *msg, TarnIe *ie);
-uint32_t link_to_composite(TarnIe *owner, TarnIe *ie);
-uint32_t extract_from_msg(TarnMsg *msg, void *value, TypeId id);
-uint32_t extract_from_composite(TarnIe *owner, void *value, TypeId id);
-uint32_t borrow_from_msg(TarnMsg *msg, TarnIe **ie, TypeId id);
-uint32_t borrow_from_composite(TarnIe *owner, TarnIe **ie, TypeId id);
+// The operations of the public interface, by owner and by value. Numbers have overloads of their
+// own because nearly everything in a message is one: the door's pointer type picks the short way,
+// and no kind needs to be asked for.
+uint32_t append(TarnMsg *owner, const uint8_t *value, TypeId id);
+uint32_t append(TarnMsg *owner, const uint16_t *value, TypeId id);
+uint32_t append(TarnMsg *owner, const uint32_t *value, TypeId id);
+uint32_t append(TarnMsg *owner, const void *value, TypeId id);
+uint32_t append(TarnIe *owner, const uint8_t *value, TypeId id);
+uint32_t append(TarnIe *owner, const uint16_t *value, TypeId id);
+uint32_t append(TarnIe *owner, const uint32_t *value, TypeId id);
+uint32_t append(TarnIe *owner, const void *value, TypeId id);
 
-} // namespace gnu::visibility("hidden")]]tarn
+uint32_t extract(TarnMsg *owner, uint8_t *value, TypeId id);
+uint32_t extract(TarnMsg *owner, uint16_t *value, TypeId id);
+uint32_t extract(TarnMsg *owner, uint32_t *value, TypeId id);
+uint32_t extract(TarnMsg *owner, void *value, TypeId id);
+uint32_t extract(TarnIe *owner, uint8_t *value, TypeId id);
+uint32_t extract(TarnIe *owner, uint16_t *value, TypeId id);
+uint32_t extract(TarnIe *owner, uint32_t *value, TypeId id);
+uint32_t extract(TarnIe *owner, void *value, TypeId id);
+
+// A composite is linked unseen: neither its tag nor its validity matters until the owner is
+// validated or packed.
+uint32_t link(TarnMsg *owner, TarnIe *child);
+uint32_t link(TarnIe *owner, TarnIe *child);
+
+uint32_t borrow(TarnMsg *owner, TarnIe **child, TypeId id);
+uint32_t borrow(TarnIe *owner, TarnIe **child, TypeId id);
+
+uint32_t append_message_id(TarnMsg *msg, const TarnMessageId *value);
+
+} // namespace tarn
 
 #endif

@@ -8,7 +8,7 @@ using namespace tarn;
 
 #define PRIMITIVE_EXTRACT_DOOR(owner_, child_)                                                     \
     uint32_t TarnExtract##child_##From##owner_##Msg(TarnMsg *msg, Tarn##child_ *value) {           \
-        return extract_from_msg(msg, value, type##child_);                                         \
+        return extract(msg, value, type##child_);                                                  \
     }
 
 #define MESSAGE(name_, ...)                                                                        \
@@ -33,15 +33,15 @@ using namespace tarn;
 
 #define PRIMITIVE_SLOT(owner_, child_, ...)                                                        \
     uint32_t TarnAppend##child_##To##owner_##Msg(TarnMsg *msg, const Tarn##child_ *value) {        \
-        return append_to_msg(msg, value, type##child_);                                            \
+        return append(msg, value, type##child_);                                                   \
     }                                                                                              \
     PRIMITIVE_EXTRACT_DOOR(owner_, child_)
 
 #define COMPOSITE_SLOT(owner_, child_, ...)                                                        \
     uint32_t TarnAppend##child_##IeTo##owner_##Msg(TarnMsg *msg, Tarn##child_##Ie *ie) {           \
-        return link_to_msg(msg, head_of(ie));                                                      \
+        return link(msg, head_of(ie));                                                             \
     }                                                                                              \
     uint32_t TarnExtract##child_##IeFrom##owner_##Msg(TarnMsg *msg, Tarn##child_##Ie **ie) {       \
-        return borrow_from_msg(msg, reinterpret_cast<TarnIe **>(ie), type##child_);                \
+        return borrow(msg, reinterpret_cast<TarnIe **>(ie), type##child_);                         \
     }
 #include "catalogue/messages.def"

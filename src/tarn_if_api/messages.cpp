@@ -20,15 +20,18 @@ uint32_t msg_is_valid(const TarnMsg *msg, MessageNumber id) {
            slots_are_valid(catalogue.messages[id].slots, &msg->ies);
 }
 
+// Room is checked IE by IE, so a message that fits, as it nearly always does, is walked once. Only
+// when it could not be written is its size asked for, to tell a buffer that is too small from an IE
+// that does not belong or cannot be packed.
 uint32_t pack_msg(const TarnMsg *msg, uint8_t *buffer, uint32_t size, MessageNumber id) {
     if (any_null(TARN_CALLER(moduleApi), msg, buffer))
         return 0;
-    if (ies_size(&msg->ies) > size) {
-        velSwFatalError("", moduleApi, __LINE__);
-        return 0;
-    }
     Output out{buffer, size};
-    return write_slots(catalogue.messages[id].slots, &msg->ies, &out);
+    if (write_slots(catalogue.messages[id].slots, &msg->ies, &out))
+        return 1;
+    if (ies_size(&msg->ies) > size)
+        velSwFatalError("", moduleApi, __LINE__);
+    return 0;
 }
 
 uint32_t unpack_new_msg(const uint8_t *buffer, uint32_t length, TarnMsg **msg) {

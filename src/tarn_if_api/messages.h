@@ -19,6 +19,6 @@ uint32_t pack_msg(const TarnMsg *msg, uint8_t *buffer, uint32_t size, MessageNum
 // Stores in *msg the message that the bytes hold, or null.
 uint32_t unpack_new_msg(const uint8_t *buffer, uint32_t length, TarnMsg **msg);
 
-} // namespace gnu::visibility("hidden")]]tarn
+} // namespace tarn
 
 #endif

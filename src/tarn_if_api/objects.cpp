@@ -8,14 +8,9 @@ void report_nulls(Caller caller, const void *const *pointers, unsigned count) {
             velSwFatalError("", caller.module, caller.line);
 }
 
-TarnIe *create_ie(TypeId id, Caller caller) {
-    const Type &type = type_of(id);
-    auto *ie = static_cast<TarnIe *>(allocate(uint32_t(sizeof(TarnIe)) + type.valueSize, caller));
-    xVelDllInitNode(&ie->node, caller.module, caller.line);
-    ie->tag = id;
-    ie->extractHistory = 0;
-    if (is_composite(type))
-        xVelDllInitHead(children_of(ie), 0, caller.module, caller.line);
+TarnIe *create_composite(TypeId id, Caller caller) {
+    TarnIe *ie = create_head(id, caller);
+    xVelDllInitHead(children_of(ie), 0, caller.module, caller.line);
     return ie;
 }
 
@@ -46,14 +41,14 @@ void reset_all(VelDllHead *list) {
 
 void reset_ie(TarnIe *ie) {
     ie->extractHistory = 0;
-    if (is_composite(type_of(type_of_tag(ie->tag))))
+    if (is_composite(type_of(type_of_tag(ie->tag)).kind))
         reset_all(children_of(ie));
 }
 
 } // namespace
 
 void delete_ie(TarnIe *ie) {
-    if (is_composite(type_of(type_of_tag(ie->tag))))
+    if (is_composite(type_of(type_of_tag(ie->tag)).kind))
         delete_all(children_of(ie));
     release(ie, TARN_CALLER(moduleApi));
 }

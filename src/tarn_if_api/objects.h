@@ -21,9 +21,18 @@ inline const VelDllHead *children_of(const TarnIe *ie) {
     return static_cast<const VelDllHead *>(value_of(ie));
 }
 
-// Returns a new IE object: unlinked, not yet extracted; a composite without children, a primitive
-// with its value still to be set.
-TarnIe *create_ie(TypeId id, Caller caller);
+// Returns a new IE object: unlinked, not yet extracted, with its value or children still to be set.
+inline TarnIe *create_head(TypeId id, Caller caller) {
+    auto *ie =
+        static_cast<TarnIe *>(allocate(uint32_t(sizeof(TarnIe)) + type_of(id).valueSize, caller));
+    xVelDllInitNode(&ie->node, caller.module, caller.line);
+    ie->tag = id;
+    ie->extractHistory = 0;
+    return ie;
+}
+
+// Returns a new composite IE object without children.
+TarnIe *create_composite(TypeId id, Caller caller);
 
 // Returns a new message object without any IE.
 TarnMsg *create_msg(MessageNumber id, Caller caller);
@@ -41,6 +50,6 @@ uint32_t ie_tag_checked(const TarnIe *ie);
 void reset_ie_history(TarnIe *ie);
 void reset_msg_history(TarnMsg *msg);
 
-} // namespace gnu::visibility("hidden")]]tarn
+} // namespace tarn
 
 #endif

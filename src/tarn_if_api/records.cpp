@@ -1,12 +1,12 @@
 #include "tarn_if_api/records.h"
 
-#include <string.h>
-
 #include "tarn_if_api/members.h"
 #include "tarn_if_api/messages.h"
 #include "tarn_if_internal_funcs/packing.h"
 #include "tarn_if_internal_funcs/sizes.h"
 #include "tarn_if_internal_funcs/slots.h"
+#include "tarn_if_internal_funcs/validity.h"
+#include "tarn_if_internal_funcs/values.h"
 
 namespace tarn {
 
@@ -30,55 +30,77 @@ uint8_t *at_offset(void *record, uint32_t offset) {
 
 // ---- Record to objects -------------------------------------------------------------------------
 
-// What became of a record's IEs.
-struct Building {
+// What became of a record. Its IEs are built in the order of their slots and none with a value out
+// of range, so conditions and the lists' least counts are all that is left to judge, and the
+// message need not be walked again by its validator.
+enum class Built : uint8_t { failed, invalid, valid };
+
+struct Builder {
     // A list composite counts fewer elements than its least. The validators overlook that in an
     // optional child; a record that says so is refused all the same.
     bool shortList = false;
+
+    Built slots(const SlotTable &table, const void *record, unsigned maskOffset, unsigned next,
+                VelDllHead *list);
+    Built composite(TypeId id, const void *record, VelDllHead *list);
+    Built elements(const Type &type, const void *record, VelDllHead *list);
 };
 
-bool build_slots(const SlotTable &table, const void *record, unsigned maskOffset, unsigned next,
-                 VelDllHead *list, Building *building);
-
-bool build_composite(TypeId id, const void *record, VelDllHead *list, Building *building);
-
-bool build_elements(const Type &type, const void *record, VelDllHead *list, Building *building) {
+Built Builder::elements(const Type &type, const void *record, VelDllHead *list) {
     const uint32_t count = *static_cast<const uint16_t *>(record);
     if (count > type.capacity)
-        return false;
-    building->shortList |= count < type.least;
-    for (uint32_t i = 0; i < count; ++i)
-        if (!build_composite(type.item, at_offset(record, type.itemsOffset + i * type.stride), list,
-                             building))
-            return false;
-    return true;
+        return Built::failed;
+    Built verdict = Built::valid;
+    if (count < type.least) {
+        shortList = true;
+        verdict = Built::invalid;
+    }
+    for (uint32_t i = 0; i < count; ++i) {
+        const Built element = composite(
+            type.array.item, at_offset(record, type.array.offset + i * type.array.stride), list);
+        if (element == Built::failed)
+            return element;
+        if (element == Built::invalid)
+            verdict = element;
+    }
+    return verdict;
 }
 
 // The composite is linked before it is filled, so that a failure leaves it to its owner's release.
-bool build_composite(TypeId id, const void *record, VelDllHead *list, Building *building) {
+Built Builder::composite(TypeId id, const void *record, VelDllHead *list) {
     const Type &type = type_of(id);
-    TarnIe *ie = create_ie(id, TARN_CALLER(moduleApi));
+    TarnIe *ie = create_composite(id, TARN_CALLER(moduleApi));
     link_ie(list, ie, TARN_CALLER(moduleApi));
     if (type.kind == Kind::compositeList)
-        return build_elements(type, record, children_of(ie), building);
-    return build_slots(type.slots, record, sequenceMaskOffset, 0, children_of(ie), building);
+        return elements(type, record, children_of(ie));
+    return slots(type.slots, record, sequenceMaskOffset, 0, children_of(ie));
 }
 
-bool build_slots(const SlotTable &table, const void *record, unsigned maskOffset, unsigned next,
-                 VelDllHead *list, Building *building) {
+// As for the validators, the verdict on an optional child does not count, and a conditional child
+// counts as present only when it is valid.
+Built Builder::slots(const SlotTable &table, const void *record, unsigned maskOffset, unsigned next,
+                     VelDllHead *list) {
     const unsigned mask = *at_offset(record, maskOffset);
-    for (; next < table.count; ++next) {
-        const Slot &slot = slot_at(table, next);
-        if (slot.presenceBit != 0 && (mask & slot.presenceBit) == 0)
+    unsigned present = 0;
+    Built verdict = Built::valid;
+    const Slot *const end = slots_end(table);
+    for (const Slot *slot = slots_begin(table) + next; slot != end; ++slot) {
+        if (slot->presenceBit != 0 && (mask & slot->presenceBit) == 0)
             continue;
-        const void *member = at_offset(record, slot.recordOffset);
-        const bool ok = is_composite(type_of(slot.type))
-                            ? build_composite(slot.type, member, list, building)
-                            : append_copy(list, slot.type, member, TARN_CALLER(moduleApi));
-        if (!ok)
-            return false;
+        const void *member = at_offset(record, slot->recordOffset);
+        Built child = Built::valid;
+        if (is_composite(slot->kind))
+            child = composite(slot->type, member, list);
+        else if (!append_copy(list, slot->type, member, TARN_CALLER(moduleApi)))
+            child = Built::failed;
+        if (child == Built::failed)
+            return child;
+        if (child == Built::valid)
+            present |= slot->presenceBit;
+        else if (slot->presence == Presence::mandatory)
+            verdict = child;
     }
-    return true;
+    return conditions_are_met(table, list, present) ? verdict : Built::invalid;
 }
 
 // Releases the message before reporting, since a host may leave by a jump from its report.
@@ -96,8 +118,9 @@ void get_elements(const Type &type, const VelDllHead *list, void *record) {
     uint16_t count = 0;
     for (const TarnIe *ie = first_ie(list, TARN_CALLER(moduleApi));
          ie != nullptr && count < type.capacity; ie = next_ie(list, ie, TARN_CALLER(moduleApi)))
-        get_slots(type_of(type.item).slots, children_of(ie),
-                  at_offset(record, type.itemsOffset + count++ * type.stride), sequenceMaskOffset);
+        get_slots(type_of(type.array.item).slots, children_of(ie),
+                  at_offset(record, type.array.offset + count++ * type.array.stride),
+                  sequenceMaskOffset);
     *static_cast<uint16_t *>(record) = count;
 }
 
@@ -108,16 +131,16 @@ void get_member(const TarnIe *ie, TypeId id, void *member) {
     else if (type.kind == Kind::compositeList)
         get_elements(type, children_of(ie), member);
     else
-        memcpy(member, value_of(ie), type.valueSize);
+        copy_value(type, member, value_of(ie));
 }
 
 // Presence bits are set and never cleared, and the members of absent IEs are left alone: a caller
 // may gather several messages into one record.
 void get_slots(const SlotTable &table, const VelDllHead *list, void *record, unsigned maskOffset) {
-    unsigned position = 0;
+    SlotFinder slots(table);
     for (const TarnIe *ie = first_ie(list, TARN_CALLER(moduleApi)); ie != nullptr;
          ie = next_ie(list, ie, TARN_CALLER(moduleApi))) {
-        const Slot *slot = next_slot(table, ie->tag, &position);
+        const Slot *slot = slots.find(ie->tag);
         if (slot == nullptr)
             continue;
         *at_offset(record, maskOffset) |= slot->presenceBit;
@@ -132,24 +155,23 @@ uint32_t build_msg(uint8_t *buffer, uint32_t size, const void *record, MessageNu
         return 0;
     const Message &message = catalogue.messages[id];
     TarnMsg *msg = new_msg(id);
-    Building building;
+    Builder builder;
     // The first slot is the MessageId IE, which is there already: the record's own id is not read.
-    if (!build_slots(message.slots, record, msgMaskOffset, 1, &msg->ies, &building))
+    const Built built = builder.slots(message.slots, record, msgMaskOffset, 1, &msg->ies);
+    if (built == Built::failed)
         return fail_build(msg, message.appendToken);
-    if (building.shortList || !msg_is_valid(msg, id))
+    if (built == Built::invalid || builder.shortList)
         return fail_build(msg, message.validityToken);
-    const uint32_t needed = ies_size(&msg->ies);
-    if (needed > size) {
-        delete_msg(msg);
-        velSwFatalError("", moduleApi, __LINE__);
-        velSwTokenDebug(message.packToken, 0);
-        return 0;
-    }
     Output out{buffer, size};
-    if (!write_slots(message.slots, &msg->ies, &out))
-        return fail_build(msg, message.packToken);
+    const bool packed = write_slots(message.slots, &msg->ies, &out);
+    const bool tooSmall = !packed && ies_size(&msg->ies) > size;
     delete_msg(msg);
-    return needed;
+    if (packed)
+        return size - out.left;
+    if (tooSmall)
+        velSwFatalError("", moduleApi, __LINE__);
+    velSwTokenDebug(message.packToken, 0);
+    return 0;
 }
 
 uint32_t get_msg(const uint8_t *buffer, uint32_t length, void *record, MessageNumber id) {

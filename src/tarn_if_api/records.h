@@ -16,6 +16,6 @@ uint32_t build_msg(uint8_t *buffer, uint32_t size, const void *record, MessageNu
 // Fills the record from the bytes and returns 1, or 0 after reporting the debug token.
 uint32_t get_msg(const uint8_t *buffer, uint32_t length, void *record, MessageNumber id);
 
-} // namespace gnu::visibility("hidden")]]tarn
+} // namespace tarn
 
 #endif

@@ -30,6 +30,6 @@ private:
 uint32_t condition_for_msg(const TarnMsg *msg, ConditionId id);
 uint32_t condition_for_ie(const TarnIe *ie, ConditionId id);
 
-} // namespace gnu::visibility("hidden")]]tarn
+} // namespace tarn
 
 #endif

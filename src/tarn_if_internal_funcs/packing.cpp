@@ -13,53 +13,65 @@ bool write_children(TypeId id, const VelDllHead *children, Output *out);
 
 // Sizes are not asked again on the way down: a composite's length is filled in once its children
 // are written, so packing stays linear in the IEs however deep they nest.
-bool write_composite(const TarnIe *ie, TypeId id, Output *out) {
-    Output rest = *out;
-    if (rest.left < headerSize)
-        return false;
+uint32_t write_composite(const TarnIe *ie, TypeId id, Output out) {
+    if (out.left < headerSize)
+        return 0;
+    Output rest = out;
     rest.skip(headerSize);
     if (!write_children(id, children_of(ie), &rest))
-        return false;
-    store16(out->at, id);
-    store32(out->at + tagSize, out->left - headerSize - rest.left);
-    *out = rest;
-    return true;
+        return 0;
+    const uint32_t size = out.left - rest.left;
+    store16(out.at, id);
+    store32(out.at + tagSize, size - headerSize);
+    return size;
 }
 
-bool write_ie(const TarnIe *ie, TypeId id, Output *out) {
-    if (is_composite(type_of(id)))
+// Writes an IE of any kind but a number and returns its size, or returns 0 on failure.
+uint32_t write_larger_ie(const TarnIe *ie, TypeId id, Output out) {
+    if (is_composite(type_of(id).kind))
         return write_composite(ie, id, out);
-    uint32_t count = 0;
-    if (!write_tlv(id, value_of(ie), *out, &count))
-        return false;
-    out->skip(count);
-    return true;
+    uint32_t size = 0;
+    return write_tlv(id, value_of(ie), out, &size) ? size : 0;
 }
 
 bool write_elements(TypeId element, const VelDllHead *list, Output *out) {
     for (const TarnIe *ie = first_ie(list, TARN_CALLER(moduleInternal)); ie != nullptr;
-         ie = next_ie(list, ie, TARN_CALLER(moduleInternal)))
-        if (ie->tag != element || !write_ie(ie, element, out))
+         ie = next_ie(list, ie, TARN_CALLER(moduleInternal))) {
+        const uint32_t size = ie->tag == element ? write_composite(ie, element, *out) : 0;
+        if (size == 0)
             return false;
+        out->skip(size);
+    }
     return true;
 }
 
 bool write_children(TypeId id, const VelDllHead *children, Output *out) {
     const Type &type = type_of(id);
     if (type.kind == Kind::compositeList)
-        return write_elements(type.item, children, out);
+        return write_elements(type.array.item, children, out);
     return write_slots(type.slots, children, out);
 }
 
 } // namespace
 
 bool write_slots(const SlotTable &table, const VelDllHead *list, Output *out) {
-    unsigned position = 0;
-    for (const TarnIe *ie = first_ie(list, TARN_CALLER(moduleInternal)); ie != nullptr;
-         ie = next_ie(list, ie, TARN_CALLER(moduleInternal)))
-        if (next_slot(table, ie->tag, &position) == nullptr || !write_ie(ie, TypeId(ie->tag), out))
-            return false;
-    return true;
+    SlotFinder slots(table);
+    Output rest = *out;
+    const TarnIe *ie = first_ie(list, TARN_CALLER(moduleInternal));
+    for (; ie != nullptr; ie = next_ie(list, ie, TARN_CALLER(moduleInternal))) {
+        const Slot *slot = slots.find(ie->tag);
+        if (slot == nullptr)
+            break;
+        const uint32_t size = is_number(slot->kind)
+                                  ? write_number_ie(slot->kind, slot->type,
+                                                    load_number(slot->kind, value_of(ie)), rest)
+                                  : write_larger_ie(ie, slot->type, rest);
+        if (size == 0)
+            break;
+        rest.skip(size);
+    }
+    *out = rest;
+    return ie == nullptr;
 }
 
 // The room is compared with the size by the object's own tag, while the tag written is that of the

@@ -19,6 +19,6 @@ uint32_t pack_primitive_ie(const TarnIe *ie, uint8_t *buffer, uint32_t available
 uint32_t pack_composite_ie(const TarnIe *ie, uint8_t *buffer, uint32_t available, uint32_t *written,
                            TypeId id);
 
-} // namespace gnu::visibility("hidden")]]tarn
+} // namespace tarn
 
 #endif

@@ -13,6 +13,6 @@ uint32_t unpack_value(void *value, uint32_t length, const uint8_t *buffer, uint3
                       uint32_t *consumed, TypeId id);
 uint32_t is_value_valid(const void *value, TypeId id);
 
-} // namespace gnu::visibility("hidden")]]tarn
+} // namespace tarn
 
 #endif

@@ -8,9 +8,9 @@ namespace tarn {
 uint32_t ie_size(const TarnIe *ie) {
     const TypeId id = type_of_tag(ie->tag);
     const Type &type = type_of(id);
-    if (!type.hasIe)
+    if (type.hasIe == 0)
         return headerSize;
-    if (is_composite(type))
+    if (is_composite(type.kind))
         return add_sizes(headerSize, ies_size(children_of(ie)));
     return add_sizes(headerSize, value_size(id, value_of(ie)));
 }

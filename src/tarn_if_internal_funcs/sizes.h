@@ -17,6 +17,6 @@ uint32_t ies_size(const VelDllHead *list);
 uint32_t ie_size_checked(const TarnIe *ie);
 int32_t msg_size_checked(const TarnMsg *msg);
 
-} // namespace gnu::visibility("hidden")]]tarn
+} // namespace tarn
 
 #endif

@@ -1,4 +1,4 @@
-// Finding the slot of an IE in its owner's table.
+// Walking the slots of a table, and finding the slot of an IE.
 #ifndef TARN_SLOTS_H
 #define TARN_SLOTS_H
 
@@ -6,20 +6,48 @@
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
-// Returns the slot of this tag, or null when the owner has none. IEs mostly stand in the order of
-// their slots, so the search goes on from *position and comes round to the start once; *position
-// then lies behind the slot found, and a child type named twice fills its slots in order.
-inline const Slot *next_slot(const SlotTable &table, uint32_t tag, unsigned *position) {
-    for (unsigned tries = table.count; tries != 0; --tries) {
-        if (*position >= table.count)
-            *position = 0;
-        const Slot &slot = slot_at(table, (*position)++);
-        if (slot.type == tag)
-            return &slot;
-    }
-    return nullptr;
+inline const Slot *slots_begin(const SlotTable &table) {
+    return catalogue.slots + table.first;
+}
+inline const Slot *slots_end(const SlotTable &table) {
+    return slots_begin(table) + table.count;
 }
 
-} // namespace gnu::visibility("hidden")]]tarn
+inline bool is_conditional(const Slot &slot) {
+    return slot.presence >= Presence::conditional;
+}
+
+// Finds the slots of IEs one after the other. IEs mostly stand in the order of their slots, so each
+// search goes on behind the slot found last and comes round to the start once; a child type named
+// twice fills its slots in order.
+class SlotFinder {
+public:
+    explicit SlotFinder(const SlotTable &table)
+        : begin_(slots_begin(table)), end_(slots_end(table)), next_(begin_) {}
+
+    // Returns the slot of this tag, or null when the owner has none.
+    const Slot *find(uint32_t tag) {
+        const Slot *slot = search(next_, end_, tag);
+        if (slot == nullptr)
+            slot = search(begin_, next_, tag);
+        if (slot != nullptr)
+            next_ = slot + 1;
+        return slot;
+    }
+
+private:
+    static const Slot *search(const Slot *from, const Slot *to, uint32_t tag) {
+        for (; from != to; ++from)
+            if (from->type == tag)
+                return from;
+        return nullptr;
+    }
+
+    const Slot *begin_;
+    const Slot *end_;
+    const Slot *next_;
+};
+
+} // namespace tarn
 
 #endif

@@ -30,6 +30,6 @@ TarnMsg *unpack_msg_checked(const uint8_t *buffer, uint32_t length, MessageNumbe
 uint32_t peek_message_id(const uint8_t *buffer, uint32_t length);
 uint32_t peek_message_id_checked(const uint8_t *buffer, uint32_t length);
 
-} // namespace gnu::visibility("hidden")]]tarn
+} // namespace tarn
 
 #endif

@@ -2,6 +2,7 @@
 
 #include "tarn_if_api/objects.h"
 #include "tarn_if_conditional_funcs/conditions.h"
+#include "tarn_if_internal_funcs/slots.h"
 #include "tarn_if_internal_funcs/values.h"
 
 namespace tarn {
@@ -12,7 +13,7 @@ bool elements_are_valid(const Type &list, const VelDllHead *children) {
     uint32_t count = 0;
     for (const TarnIe *ie = first_ie(children, TARN_CALLER(moduleInternal)); ie != nullptr;
          ie = next_ie(children, ie, TARN_CALLER(moduleInternal))) {
-        if (!ie_is_valid(ie, list.item))
+        if (!ie_is_valid(ie, list.array.item))
             return false;
         ++count;
     }
@@ -22,9 +23,10 @@ bool elements_are_valid(const Type &list, const VelDllHead *children) {
 // Returns the slot behind the mandatory ones that takes this tag, or null. A child type named twice
 // has its later slot there.
 const Slot *optional_slot(const SlotTable &table, uint32_t tag) {
-    for (unsigned i = table.mandatory; i < table.count; ++i)
-        if (slot_at(table, i).type == tag)
-            return &slot_at(table, i);
+    const Slot *const end = slots_end(table);
+    for (const Slot *slot = slots_begin(table) + table.mandatory; slot != end; ++slot)
+        if (slot->type == tag)
+            return slot;
     return nullptr;
 }
 
@@ -35,25 +37,28 @@ bool note_optional(const SlotTable &table, const TarnIe *ie, uint32_t position, 
     const Slot *slot = optional_slot(table, ie->tag);
     if (slot == nullptr)
         return position >= table.count;
-    if (slot->presence != Presence::optional && (*present & slot->presenceBit) == 0 &&
-        ie_is_valid(ie, slot->type))
+    if (is_conditional(*slot) && (*present & slot->presenceBit) == 0 && ie_is_valid(ie, slot->type))
         *present |= slot->presenceBit;
     return true;
 }
 
-// A conditional child must be there when its condition holds, and must not when it does not.
-bool conditions_are_met(const SlotTable &table, const VelDllHead *list, unsigned present) {
-    Conditions conditions(list);
-    for (unsigned i = table.mandatory; i < table.count; ++i) {
-        const Slot &slot = slot_at(table, i);
-        if (slot.presence != Presence::optional &&
-            conditions.hold(slot.condition) != ((present & slot.presenceBit) != 0))
-            return false;
-    }
-    return true;
+// Only a last slot can be a repeated one.
+bool repeats(const SlotTable &table) {
+    return slots_end(table)[-1].presence == Presence::repeated;
 }
 
 } // namespace
+
+// A conditional child must be there when its condition holds, and must not when it does not.
+bool conditions_are_met(const SlotTable &table, const VelDllHead *list, unsigned present) {
+    Conditions conditions(list);
+    const Slot *const end = slots_end(table);
+    for (const Slot *slot = slots_begin(table) + table.mandatory; slot != end; ++slot)
+        if (is_conditional(*slot) &&
+            conditions.hold(slot->condition) != ((present & slot->presenceBit) != 0))
+            return false;
+    return true;
+}
 
 // The check is by position. Mandatory slots lead and must each hold their IE; behind them optional
 // ones may stand in any order and any number of times. What stands behind the last position is
@@ -64,10 +69,11 @@ bool slots_are_valid(const SlotTable &table, const VelDllHead *list) {
     unsigned present = 0;
     for (const TarnIe *ie = first_ie(list, TARN_CALLER(moduleInternal)); ie != nullptr;
          ie = next_ie(list, ie, TARN_CALLER(moduleInternal)), ++position) {
-        if (position >= table.count && !table.repeats)
+        if (position >= table.count && !repeats(table))
             break;
-        const bool ok = position < table.mandatory ? ie_is_valid(ie, slot_at(table, position).type)
-                                                   : note_optional(table, ie, position, &present);
+        const bool ok = position < table.mandatory
+                            ? ie_is_valid(ie, slots_begin(table)[position].type)
+                            : note_optional(table, ie, position, &present);
         if (!ok)
             return false;
     }

@@ -11,6 +11,9 @@ namespace [[gnu::visibility("hidden")]] tarn {
 // Whether the list keeps the rules of the table.
 bool slots_are_valid(const SlotTable &table, const VelDllHead *list);
 
+// Whether each conditional slot's condition holds exactly if its bit is among those present.
+bool conditions_are_met(const SlotTable &table, const VelDllHead *list, unsigned present);
+
 // Whether the object has this type's tag and a valid value or valid children.
 bool ie_is_valid(const TarnIe *ie, TypeId id);
 
@@ -19,6 +22,6 @@ bool ie_is_valid(const TarnIe *ie, TypeId id);
 uint32_t primitive_ie_is_valid(const TarnIe *ie, TypeId id);
 uint32_t composite_ie_is_valid(const TarnIe *ie, TypeId id);
 
-} // namespace gnu::visibility("hidden")]]tarn
+} // namespace tarn
 
 #endif

@@ -1,17 +1,10 @@
 #include "tarn_if_internal_funcs/values.h"
 
-#include <string.h>
-
 namespace tarn {
 
 namespace {
 
 // ---- Access to what a value record holds -------------------------------------------------------
-
-// A byte string and a list begin with their count; the bytes or items follow.
-uint32_t stored_count(const void *value) {
-    return *static_cast<const uint32_t *>(value);
-}
 
 void set_stored_count(void *value, uint32_t count) {
     *static_cast<uint32_t *>(value) = count;
@@ -30,61 +23,35 @@ void *at_offset(void *value, uint32_t offset) {
 }
 
 const void *item_of(const Type &list, const void *value, uint32_t index) {
-    return at_offset(value, list.itemsOffset + index * list.stride);
+    return at_offset(value, list.array.offset + index * list.array.stride);
 }
 
 void *item_of(const Type &list, void *value, uint32_t index) {
-    return at_offset(value, list.itemsOffset + index * list.stride);
+    return at_offset(value, list.array.offset + index * list.array.stride);
 }
 
 const Member &member_of(const Type &record, unsigned index) {
     return catalogue.members[record.slots.first + index];
 }
 
-// ---- Scalars -----------------------------------------------------------------------------------
+// ---- Numbers -----------------------------------------------------------------------------------
 
-uint32_t load_scalar(const Type &type, const void *value) {
-    if (type.valueSize == 4)
-        return *static_cast<const uint32_t *>(value);
-    if (type.valueSize == 2)
-        return *static_cast<const uint16_t *>(value);
-    return *static_cast<const uint8_t *>(value);
-}
-
-// The width on the wire may be less than the one in memory: of a code word only the low 16 bits
-// travel, and callers may leave flags of their own above them.
-bool write_scalar(const Type &type, const void *value, Output out, uint32_t *written) {
+bool write_number(const Type &type, const void *value, Output out, uint32_t *written) {
     const uint32_t width = type.fixedSize;
     if (width > out.left)
         return false;
-    const uint32_t number = load_scalar(type, value);
-    if (width == 4)
-        store32(out.at, number);
-    else if (width == 2)
-        store16(out.at, number);
-    else
-        *out.at = uint8_t(number);
+    store_wire(out.at, width, load_number(type.kind, value));
     *written = width;
     return true;
 }
 
-bool read_scalar(const Type &type, void *value, uint32_t length, Input in, uint32_t *consumed) {
+bool read_number(const Type &type, void *value, uint32_t length, Input in, uint32_t *consumed) {
     const uint32_t width = type.fixedSize;
     if (length != width || width > in.left)
         return false;
-    const uint32_t number = width == 4 ? load32(in.at) : width == 2 ? load16(in.at) : *in.at;
-    if (type.valueSize == 4)
-        *static_cast<uint32_t *>(value) = number;
-    else if (type.valueSize == 2)
-        *static_cast<uint16_t *>(value) = uint16_t(number);
-    else
-        *static_cast<uint8_t *>(value) = uint8_t(number);
+    store_number(type.kind, value, load_wire(in.at, width));
     *consumed = width;
     return true;
-}
-
-bool in_range(const Type &type, uint32_t number) {
-    return number >= type.least && number <= type.greatest;
 }
 
 // ---- Byte strings ------------------------------------------------------------------------------
@@ -109,6 +76,31 @@ bool read_bytes(const Type &type, void *value, uint32_t length, Input in, uint32
     return true;
 }
 
+// ---- Nested TLVs -------------------------------------------------------------------------------
+
+// A number that is whole goes the short way; what fails is done again the long way, which tells how
+// far it came.
+inline bool write_nested(Kind kind, TypeId id, const void *value, Output out, uint32_t *written) {
+    if (builtForSpeed && is_number(kind)) {
+        *written = write_number_ie(kind, id, load_number(kind, value), out);
+        if (*written != 0)
+            return true;
+    }
+    return write_tlv(id, value, out, written);
+}
+
+inline bool read_nested(Kind kind, TypeId id, void *value, Input in, uint32_t *consumed) {
+    uint32_t number = 0;
+    if (builtForSpeed && is_number(kind) && in.has_tag(id)) {
+        *consumed = read_number_ie(kind, in, &number);
+        if (*consumed != 0) {
+            store_number(kind, value, number);
+            return true;
+        }
+    }
+    return read_tlv(id, value, in, consumed);
+}
+
 // ---- Records -----------------------------------------------------------------------------------
 
 uint32_t record_size(const Type &type, const void *value) {
@@ -126,7 +118,8 @@ bool write_record(const Type &type, const void *value, Output out, uint32_t *wri
     for (unsigned i = 0; i < type.slots.count; ++i) {
         const Member &member = member_of(type, i);
         uint32_t count = 0;
-        const bool ok = write_tlv(member.type, at_offset(value, member.offset), out, &count);
+        const bool ok =
+            write_nested(member.kind, member.type, at_offset(value, member.offset), out, &count);
         *written += count;
         if (!ok)
             return false;
@@ -146,7 +139,8 @@ bool read_record(const Type &type, void *value, uint32_t length, Input in, uint3
             return false;
         const Member &member = member_of(type, i);
         uint32_t count = 0;
-        const bool ok = read_tlv(member.type, at_offset(value, member.offset), in, &count);
+        const bool ok =
+            read_nested(member.kind, member.type, at_offset(value, member.offset), in, &count);
         *consumed += count;
         if (!ok)
             return false;
@@ -169,12 +163,12 @@ bool record_is_valid(const Type &type, const void *value) {
 uint32_t list_size(const Type &type, const void *value) {
     const uint32_t stored = stored_count(value);
     const uint32_t count = stored < type.capacity ? stored : type.capacity;
-    const uint32_t fixed = type_of(type.item).fixedSize;
+    const uint32_t fixed = type_of(type.array.item).fixedSize;
     if (fixed != 0)
         return count * (headerSize + fixed);
     uint32_t size = 0;
     for (uint32_t i = 0; i < count; ++i)
-        size = add_sizes(size, headerSize + value_size(type.item, item_of(type, value, i)));
+        size = add_sizes(size, headerSize + value_size(type.array.item, item_of(type, value, i)));
     return size;
 }
 
@@ -186,9 +180,10 @@ bool write_list(const Type &type, const void *value, Output out, uint32_t *writt
     if (items > type.capacity)
         return false;
     bool all = true;
+    const Kind kind = type_of(type.array.item).kind;
     for (uint32_t i = 0; i < items; ++i) {
         uint32_t count = 0;
-        all &= write_tlv(type.item, item_of(type, value, i), out, &count);
+        all &= write_nested(kind, type.array.item, item_of(type, value, i), out, &count);
         *written += count;
         out.skip(count);
     }
@@ -203,6 +198,7 @@ bool read_list(const Type &type, void *value, uint32_t length, Input in, uint32_
         return false;
     alignas(4) uint8_t former[listValueLimit];
     memcpy(former, value, type.valueSize);
+    const Kind kind = type_of(type.array.item).kind;
     uint32_t items = 0;
     set_stored_count(value, 0);
     while (*consumed < length) {
@@ -211,7 +207,7 @@ bool read_list(const Type &type, void *value, uint32_t length, Input in, uint32_
             return false;
         }
         uint32_t count = 0;
-        const bool ok = read_tlv(type.item, item_of(type, value, items), in, &count);
+        const bool ok = read_nested(kind, type.array.item, item_of(type, value, items), in, &count);
         *consumed += count;
         if (!ok)
             return false;
@@ -225,66 +221,78 @@ bool list_is_valid(const Type &type, const void *value) {
     const uint32_t items = stored_count(value);
     if (!in_range(type, items))
         return false;
+    if (type_of(type.array.item).acceptsAll != 0)
+        return true;
     for (uint32_t i = 0; i < items; ++i)
-        if (!value_is_valid(type.item, item_of(type, value, i)))
+        if (!value_is_valid(type.array.item, item_of(type, value, i)))
             return false;
     return true;
 }
 
-} // namespace
-
 // ---- One switch per verb -----------------------------------------------------------------------
 
-uint32_t value_size(TypeId id, const void *value) {
-    const Type &type = type_of(id);
+inline uint32_t size_by_kind(const Type &type, const void *value) {
     if (type.fixedSize != 0)
         return type.fixedSize;
     if (type.kind == Kind::bytes)
         return stored_count(value);
-    if (type.kind == Kind::record)
-        return record_size(type, value);
-    return list_size(type, value);
+    return type.kind == Kind::record ? record_size(type, value) : list_size(type, value);
 }
 
-bool write_value(TypeId id, const void *value, Output out, uint32_t *written) {
-    const Type &type = type_of(id);
+inline bool write_by_kind(const Type &type, const void *value, Output out, uint32_t *written) {
     switch (type.kind) {
-    case Kind::scalar:
-        return write_scalar(type, value, out, written);
     case Kind::bytes:
         return write_bytes(type, value, out, written);
     case Kind::record:
         return write_record(type, value, out, written);
-    default:
+    case Kind::list:
         return write_list(type, value, out, written);
+    default:
+        return write_number(type, value, out, written);
     }
 }
 
-bool read_value(TypeId id, void *value, uint32_t length, Input in, uint32_t *consumed) {
-    const Type &type = type_of(id);
+inline bool read_by_kind(const Type &type, void *value, uint32_t length, Input in,
+                         uint32_t *consumed) {
     switch (type.kind) {
-    case Kind::scalar:
-        return read_scalar(type, value, length, in, consumed);
     case Kind::bytes:
         return read_bytes(type, value, length, in, consumed);
     case Kind::record:
         return read_record(type, value, length, in, consumed);
-    default:
+    case Kind::list:
         return read_list(type, value, length, in, consumed);
+    default:
+        return read_number(type, value, length, in, consumed);
     }
+}
+
+} // namespace
+
+uint32_t value_size(TypeId id, const void *value) {
+    return size_by_kind(type_of(id), value);
+}
+
+bool write_value(TypeId id, const void *value, Output out, uint32_t *written) {
+    return write_by_kind(type_of(id), value, out, written);
+}
+
+bool read_value(TypeId id, void *value, uint32_t length, Input in, uint32_t *consumed) {
+    return read_by_kind(type_of(id), value, length, in, consumed);
 }
 
 bool value_is_valid(TypeId id, const void *value) {
     const Type &type = type_of(id);
+    if (type.acceptsAll != 0)
+        return true;
     switch (type.kind) {
-    case Kind::scalar:
-        return in_range(type, load_scalar(type, value));
     case Kind::bytes:
         return in_range(type, stored_count(value));
     case Kind::record:
         return record_is_valid(type, value);
-    default:
+    case Kind::list:
         return list_is_valid(type, value);
+    default:
+        return in_range(type, load_number(type.kind, value));
     }
 }
 
@@ -292,12 +300,13 @@ bool write_tlv(TypeId id, const void *value, Output out, uint32_t *written) {
     *written = 0;
     if (out.left < headerSize)
         return false;
+    const Type &type = type_of(id);
     store16(out.at, id);
-    store32(out.at + tagSize, value_size(id, value));
+    store32(out.at + tagSize, size_by_kind(type, value));
     *written = headerSize;
     out.skip(headerSize);
     uint32_t count = 0;
-    if (!write_value(id, value, out, &count))
+    if (!write_by_kind(type, value, out, &count))
         return false;
     *written = headerSize + count;
     return true;
@@ -307,15 +316,14 @@ bool read_tlv(TypeId id, void *value, Input in, uint32_t *consumed) {
     *consumed = 0;
     if (!in.has_tag(id))
         return false;
-    if (in.left < headerSize) {
-        *consumed = tagSize;
+    *consumed = tagSize;
+    if (in.left < headerSize)
         return false;
-    }
     *consumed = headerSize;
     const uint32_t length = load32(in.at + tagSize);
     in.skip(headerSize);
     uint32_t count = 0;
-    if (!read_value(id, value, length, in, &count))
+    if (!read_by_kind(type_of(id), value, length, in, &count))
         return false;
     *consumed = headerSize + count;
     return true;

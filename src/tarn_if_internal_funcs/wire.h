@@ -63,6 +63,6 @@ inline uint32_t add_sizes(uint32_t a, uint32_t b) {
     return sum < a ? UINT32_MAX : sum;
 }
 
-} // namespace gnu::visibility("hidden")]]tarn
+} // namespace tarn
 
 #endif
