@@ -84,7 +84,13 @@ uint32_t pack_primitive_ie(const TarnIe *ie, uint8_t *buffer, uint32_t available
     *written = 0;
     if (ie_size(ie) > available)
         return 0;
-    return write_tlv(id, value_of(ie), Output{buffer, available}, written);
+    const uint32_t size = value_size(id, value_of(ie));
+    if (size <= available - headerSize)
+        return write_tlv(id, value_of(ie), Output{buffer, available}, written);
+    store16(buffer, id);
+    store32(buffer + tagSize, size);
+    *written = headerSize;
+    return 0;
 }
 
 // The length written here is the one by the object's own tag as well, and it is there even when a
