@@ -1,0 +1,206 @@
+// Unpacking of messages from bytes that are not quite right.
+#include "support/library_test.h"
+#include "support/model.h"
+#include "support/mutations.h"
+#include "support/samples.h"
+#include "tarn_if.h"
+
+using protocol::Message;
+using protocol::Presence;
+using samples::Amount;
+using samples::Bytes;
+using samples::MsgPtr;
+using samples::Node;
+using samples::Nodes;
+using samples::Random;
+
+namespace {
+
+class MessageUnpacking : public LibraryTest {
+protected:
+    // Nothing may be left of a message that is refused, which the end of each test checks too.
+    static std::optional<Nodes> unpack(const Message &message, const Bytes &bytes) {
+        const samples::Exact exact(bytes);
+        const MsgPtr msg(message.unpack(exact.data(), exact.size()));
+        if (msg == nullptr) {
+            EXPECT_EQ(test_host::live_blocks(), 0U);
+            return {};
+        }
+        EXPECT_EQ(msg->messageId, message.id);
+        return samples::nodes_of(msg->ies);
+    }
+
+    static void expect_as_modelled(const Message &message, const Bytes &bytes) {
+        const auto expected = model::unpack_msg(message, bytes);
+        const auto result = unpack(message, bytes);
+        EXPECT_EQ(result.has_value(), expected.has_value());
+        EXPECT_EQ(result.value_or(Nodes()), expected.value_or(Nodes()));
+    }
+
+    static Bytes joined(const Nodes &nodes, const Bytes &tail) {
+        Bytes bytes = samples::encode(nodes);
+        bytes.insert(bytes.end(), tail.begin(), tail.end());
+        return bytes;
+    }
+};
+
+TEST_F(MessageUnpacking, EveryTruncation) {
+    Random random(1);
+    for (const Message *message : protocol::messages())
+        for (std::uint32_t deciding = 0; deciding < 3; ++deciding) {
+            const Bytes whole =
+                samples::encode(samples::make_message(*message, Amount::slim, random, deciding));
+            for (std::size_t size = 0; size <= whole.size(); ++size) {
+                SCOPED_TRACE(std::string(message->name) + " cut to " + std::to_string(size));
+                expect_as_modelled(*message,
+                                   Bytes(whole.begin(), whole.begin() + std::ptrdiff_t(size)));
+            }
+        }
+}
+
+// What the cuts come to, said without the model: null up to the last mandatory IE, and then the
+// message with the optional IEs that are whole.
+TEST_F(MessageUnpacking, TruncationsOfOneMessage) {
+    Random random(2);
+    const Message &message = samples::message("InitDirectTransfer");
+    const Nodes nodes = samples::make_message(message, Amount::slim, random);
+    const Bytes whole = samples::encode(nodes);
+    const std::size_t mandatory = samples::encode(Nodes(nodes.begin(), nodes.begin() + 5)).size();
+    const std::size_t withImsi = samples::encode(Nodes(nodes.begin(), nodes.begin() + 6)).size();
+    for (std::size_t size = 0; size <= whole.size(); ++size) {
+        const auto result =
+            unpack(message, Bytes(whole.begin(), whole.begin() + std::ptrdiff_t(size)));
+        const std::size_t expected = size < mandatory      ? 0
+                                     : size < withImsi     ? 5
+                                     : size < whole.size() ? 6
+                                                           : 7;
+        EXPECT_EQ(result ? result->size() : 0, expected) << size;
+    }
+}
+
+TEST_F(MessageUnpacking, ForeignIeAtEachPosition) {
+    Random random(3);
+    for (const Message *message : protocol::messages()) {
+        const Nodes nodes = samples::make_message(*message, Amount::slim, random);
+        for (std::size_t at = 0; at <= nodes.size(); ++at) {
+            SCOPED_TRACE(std::string(message->name) + " at " + std::to_string(at));
+            Nodes changed = nodes;
+            changed.insert(changed.begin() + std::ptrdiff_t(at),
+                           samples::number_node("SduSize", 1)); // no message's
+            const Bytes bytes = samples::encode(changed);
+            expect_as_modelled(*message, bytes);
+            const auto result = unpack(*message, bytes);
+            const bool isMandatory =
+                at < message->slots.size() && message->slots[at].presence == Presence::mandatory;
+            Nodes taken;
+            if (!isMandatory)
+                taken.assign(nodes.begin(), nodes.begin() + std::ptrdiff_t(at));
+            // The conditional IEs of IapReset and RelocationRequired may be required.
+            EXPECT_TRUE(message->id == 18 || message->id == 24 ||
+                        result.value_or(Nodes()) == taken);
+        }
+    }
+}
+
+TEST_F(MessageUnpacking, EachMandatoryIeAbsentInvalidOrMisplacedRefuses) {
+    Random random(4);
+    for (const Message *message : protocol::messages()) {
+        const Nodes nodes = samples::make_message(*message, Amount::slim, random);
+        for (std::size_t at = 0; at < nodes.size(); ++at) {
+            if (message->slots[at].presence != Presence::mandatory)
+                continue;
+            SCOPED_TRACE(std::string(message->name) + " IE " + std::to_string(at));
+            Nodes changed = nodes;
+            changed.erase(changed.begin() + std::ptrdiff_t(at));
+            EXPECT_FALSE(unpack(*message, samples::encode(changed)).has_value());
+            if (at + 1 < nodes.size()) {
+                changed = nodes;
+                std::swap(changed[at], changed[at + 1]);
+                EXPECT_FALSE(unpack(*message, samples::encode(changed)).has_value());
+            }
+            if (const auto invalid = samples::make_invalid(*nodes[at].type, random)) {
+                changed = nodes;
+                changed[at] = *invalid;
+                EXPECT_FALSE(unpack(*message, samples::encode(changed)).has_value());
+            }
+        }
+    }
+}
+
+TEST_F(MessageUnpacking, OptionalIeAbsentInvalidOrMisplacedIsLeftOut) {
+    Random random(5);
+    for (const Message *message : protocol::messages()) {
+        const Nodes nodes = samples::make_message(*message, Amount::slim, random);
+        for (std::size_t at = 0; at < nodes.size(); ++at) {
+            if (message->slots[at].presence != Presence::optional)
+                continue;
+            SCOPED_TRACE(std::string(message->name) + " IE " + std::to_string(at));
+            Nodes changed = nodes;
+            changed.erase(changed.begin() + std::ptrdiff_t(at));
+            EXPECT_EQ(unpack(*message, samples::encode(changed)), changed);
+            changed = nodes;
+            std::swap(changed[at], changed.back());
+            expect_as_modelled(*message, samples::encode(changed));
+            changed = nodes;
+            changed.insert(changed.begin() + std::ptrdiff_t(at), nodes[at]); // twice
+            expect_as_modelled(*message, samples::encode(changed));
+            if (const auto invalid = samples::make_invalid(*nodes[at].type, random)) {
+                changed = nodes;
+                changed[at] = *invalid;
+                // The bytes of the invalid one stay in the way of those behind it.
+                EXPECT_EQ(unpack(*message, samples::encode(changed)),
+                          Nodes(nodes.begin(), nodes.begin() + std::ptrdiff_t(at)));
+            }
+        }
+    }
+}
+
+TEST_F(MessageUnpacking, TrailingBytesAreIgnored) {
+    Random random(6);
+    for (const Message *message : protocol::messages()) {
+        SCOPED_TRACE(message->name);
+        const Nodes nodes = samples::make_message(*message, Amount::slim, random);
+        for (const char *tail : {"00", "0048 00000001 01", "FFFF FFFFFFFF", "002A 00000002 0001"})
+            EXPECT_EQ(unpack(*message, joined(nodes, samples::from_hex(tail))), nodes);
+    }
+}
+
+// The type is the caller's: its unpacker takes whatever id the IE carries.
+TEST_F(MessageUnpacking, ValueOfMessageIdIsNotComparedWithTheType) {
+    Random random(7);
+    for (const Message *message : protocol::messages()) {
+        Nodes nodes = samples::make_message(*message, Amount::least, random);
+        samples::set_number(nodes.front(), 34);
+        EXPECT_EQ(unpack(*message, samples::encode(nodes)), nodes) << message->name;
+        const MsgPtr msg = samples::make_msg(*message, nodes);
+        EXPECT_EQ(message->isValid(msg.get()), 1U) << message->name;
+    }
+}
+
+TEST_F(MessageUnpacking, FailureDeepInAnOptionalCompositeDropsItWhole) {
+    Random random(8);
+    const Message &message = samples::message("HandoverRequest");
+    Nodes nodes = samples::make_message(message, Amount::slim, random);
+    ASSERT_EQ(nodes[4].type->tag, 150U);
+    Node *params = &nodes[4].children[0].children[1].children[0].children[2];
+    ASSERT_EQ(params->type->tag, 26U);
+    params->children.back() = samples::number_node("LacMatch", 1); // TransDelay is called for
+    // The RabList with it is left out; then the list's budget is not met and the list is left out.
+    EXPECT_EQ(unpack(message, samples::encode(nodes)), Nodes(nodes.begin(), nodes.begin() + 4));
+}
+
+TEST_F(MessageUnpacking, MutatedBytes) {
+    Random random(9);
+    for (const Message *message : protocol::messages())
+        for (int i = 0; i < 300; ++i) {
+            const Nodes nodes =
+                samples::make_message(*message, i % 2 == 0 ? Amount::slim : Amount::random, random);
+            const Bytes bytes = samples::mutate(nodes, random);
+            SCOPED_TRACE(std::string(message->name) + " round " + std::to_string(i));
+            expect_as_modelled(*message, bytes);
+            if (HasFailure())
+                return;
+        }
+}
+
+} // namespace
