@@ -9,4 +9,4 @@ cmake --build --preset release -- --quiet
 build/release/tools/tarn/tarn decode examples/messages/*.hex
 echo
 echo "The tool is build/release/tools/tarn/tarn; see what else it does with --help."
-echo "An access point and its controller talking: build/release/examples/exchange/exchange"
+echo "An access point and its controller talking: build/release/examples/exchange"

@@ -19,8 +19,9 @@ cmake -S . -B $build -G Ninja -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clan
     -DTARN_SANITIZE=address,undefined -DTARN_FUZZ=ON -DTARN_TESTS=OFF -DTARN_EXAMPLES=OFF >/dev/null
 cmake --build $build --target fuzz/all -- --quiet
 
-# The longest inputs that corpora begin with take some 4,100 bytes.
-options=(-max_total_time="$seconds" -max_len=5000 -timeout=20 -rss_limit_mb=1024
+# The longest inputs that corpora begin with take some 4,100 bytes. Inputs take microseconds, but a
+# machine that does other things as well may stand still for long.
+options=(-max_total_time="$seconds" -max_len=5000 -timeout=120 -rss_limit_mb=1024
     -dict=$build/fuzz/corpus/dictionary -print_final_stats=1)
 
 fuzz() { # target
