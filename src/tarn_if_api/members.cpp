@@ -65,7 +65,8 @@ template <class Value>
 [[gnu::always_inline]] inline bool append_value(VelDllHead *list, TypeId id, const Value *value,
                                                 Caller caller) {
     const Type &type = type_of(id);
-    if (!is_in_range(type, id, value))
+    // No 8- or 16-bit number that a message takes has a bound, so some copies of this never refuse.
+    if (!is_in_range(type, id, value)) // GCOVR_EXCL_BR_LINE
         return false;
     TarnIe *ie = create_head(id, caller);
     copy_in(type, ie, value);

@@ -22,7 +22,8 @@ uint32_t msg_is_valid(const TarnMsg *msg, MessageNumber id) {
 
 // Room is checked IE by IE, so a message that fits, as it nearly always does, is walked once. Only
 // when it could not be written is its size asked for, to tell a buffer that is too small from an IE
-// that does not belong or cannot be packed.
+// that does not belong or cannot be packed. What the buffer holds after a fatal error means
+// nothing.
 uint32_t pack_msg(const TarnMsg *msg, uint8_t *buffer, uint32_t size, MessageNumber id) {
     if (any_null(TARN_CALLER(moduleApi), msg, buffer))
         return 0;

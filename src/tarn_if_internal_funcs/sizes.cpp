@@ -10,6 +10,8 @@ uint32_t ie_size(const TarnIe *ie) {
     const Type &type = type_of(id);
     if (type.hasIe == 0)
         return headerSize;
+    if (type.fixedSize != 0)
+        return headerSize + type.fixedSize;
     if (is_composite(type.kind))
         return add_sizes(headerSize, ies_size(children_of(ie)));
     return add_sizes(headerSize, value_size(id, value_of(ie)));

@@ -72,6 +72,12 @@ read_off(sections ${READELF} --section-headers --wide ${LIBRARY})
 # have to be relocated: the catalogue stays in pages that all processes share.
 pick(writable "${section} +[A-Z]*W" ${sections})
 list(REMOVE_ITEM writable .dynamic .got .got.plt)
+# Some compilers keep offsets in .data.rel.ro. Where the loader has nothing to relocate but calls,
+# nothing in there is ever written.
+read_off(relocations ${READELF} --relocs --wide ${LIBRARY})
+if(NOT relocations MATCHES "_RELATIVE|_ABS|_64 ")
+    list(REMOVE_ITEM writable .data.rel.ro)
+endif()
 if(NOT OPTIMIZED)
     # Without optimization a compiler may copy arguments from nameless templates there.
     list(REMOVE_ITEM writable .data)

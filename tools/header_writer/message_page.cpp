@@ -34,7 +34,8 @@ holds.
 
 TarnPackMMsg writes all IEs of the message to buffer in list order; TarnSizeOfMsg tells how many
 bytes that takes. It applies none of the rules of presence and order, but fails if an IE is none of
-M's or does not pack. A size that is too small is fatal. A buffer whose message failed holds part of it.
+M's or does not pack. A size that is too small is fatal. What a buffer holds after a failure means
+nothing.
 
 TarnUnpackMMsg returns a new message object, read from buffer, that the caller owns until
 TarnDeleteMsg, or null. IEs are taken in the order of the table, and each must be valid. A mandatory
