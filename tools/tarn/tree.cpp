@@ -124,7 +124,8 @@ void print_line(std::ostream &out, const Line &line, std::size_t nameWidth) {
     constexpr int offsetWidth = 6;
     constexpr std::size_t tagWidth = 5; // "[177]"
     const std::string tag = "[" + std::to_string(line.tag) + "]";
-    out << std::setw(offsetWidth) << line.at << "  " << padding(std::size_t{2} * line.depth) << line.name;
+    out << std::setw(offsetWidth) << line.at << "  " << padding(std::size_t{2} * line.depth)
+        << line.name;
     out << padding(nameWidth - line.name.size() - std::size_t{2} * line.depth + 1);
     out << padding(tagWidth - std::min(tagWidth, tag.size())) << tag;
     const std::string margin = padding(offsetWidth + 2 + nameWidth + 1 + tagWidth + 2);
