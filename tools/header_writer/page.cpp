@@ -97,7 +97,7 @@ std::string prototype(const std::string &result, const std::string &name,
     const std::string head = result + (result.back() == '*' ? "" : " ") + name + "(";
     if (parameters.empty())
         return head + "void);";
-    const std::string aligned = packed(head, parameters, head.size());
+    std::string aligned = packed(head, parameters, head.size());
     if (fits(aligned))
         return aligned;
     const std::string own = name + "(";

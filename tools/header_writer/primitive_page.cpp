@@ -161,7 +161,7 @@ std::string sizeText(const Catalogue &catalogue, const Primitive &row) {
 }
 
 std::string packText(const Primitive &row) {
-    const std::string success = "packs *value and sets *written, returning 1 on success and 0 ";
+    std::string success = "packs *value and sets *written, returning 1 on success and 0 ";
     const std::string capacity = std::to_string(row.capacity);
     switch (row.shape) {
     case Shape::scalar:
@@ -178,7 +178,7 @@ std::string packText(const Primitive &row) {
 }
 
 std::string unpackText(const Primitive &row) {
-    const std::string success = "sets *value and *consumed, returning 1 on success and 0 ";
+    std::string success = "sets *value and *consumed, returning 1 on success and 0 ";
     const std::string capacity = std::to_string(row.capacity);
     switch (row.shape) {
     case Shape::scalar:

@@ -1,6 +1,8 @@
 // The command line.
 #include <CLI/CLI.hpp>
 
+#include <cstdio>
+#include <exception>
 #include <iostream>
 
 #include "tarn/commands.h"
@@ -94,10 +96,14 @@ int run(int argc, char **argv) {
 } // namespace
 
 int main(int argc, char **argv) {
-    std::ios::sync_with_stdio(false);
-    const int status = run(argc, argv);
-    if (std::cout.flush())
-        return status;
-    std::cerr << "tarn: cannot write the output\n";
+    try {
+        std::ios::sync_with_stdio(false);
+        const int status = run(argc, argv);
+        if (std::cout.flush())
+            return status;
+        std::fputs("tarn: cannot write the output\n", stderr);
+    } catch (const std::exception &error) {
+        std::fprintf(stderr, "tarn: %s\n", error.what());
+    }
     return tool::exitUnusable;
 }
