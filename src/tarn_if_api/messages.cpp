@@ -36,9 +36,11 @@ uint32_t pack_msg(const TarnMsg *msg, uint8_t *buffer, uint32_t size, MessageNum
 }
 
 uint32_t unpack_new_msg(const uint8_t *buffer, uint32_t length, TarnMsg **msg) {
-    if (any_null(TARN_CALLER(moduleApi), msg, buffer))
+    const bool missing = any_null(TARN_CALLER(moduleApi), msg, buffer);
+    if (msg != nullptr)
+        *msg = nullptr;
+    if (missing)
         return 0;
-    *msg = nullptr;
     const uint32_t id = peek_message_id(buffer, length);
     if (id < messageCount && catalogue.messages[id].slots.count != 0)
         *msg = unpack_msg(buffer, length, MessageNumber(id));

@@ -62,7 +62,16 @@ std::vector<Operation> buffer_operations() {
         {"TarnGetMessageId of nothing", internal, 1,
          [](Pointers p) { return TarnGetMessageId(as<Byte>(p[0]), 0); }},
         {"TarnUnpackNewMsg", api, 2,
-         [](Pointers p) { return TarnUnpackNewMsg(as<Byte>(p[1]), some, as<TarnMsg *>(p[0])); }},
+         [](Pointers p) {
+             const std::uint32_t result =
+                 TarnUnpackNewMsg(as<Byte>(p[1]), some, as<TarnMsg *>(p[0]));
+             // Where no message comes back its pointer is null, and only that is written.
+             if (p[0] != nullptr) {
+                 EXPECT_EQ(*as<TarnMsg *>(p[0]), nullptr);
+                 std::memset(p[0], 0x5A, sizeof(TarnMsg *));
+             }
+             return result;
+         }},
     };
 }
 

@@ -37,9 +37,10 @@ a member or an item has another tag than the one expected or fails itself. Range
 see TarnIsXValid.
 
   When these two fail, *written and *consumed stay as they were for scalars and byte strings,
-  and tell the bytes handled before the failing point for records and lists. A scalar and a
-  byte string that fail to unpack stay as they were; of a record or list, members or items
-  that were read before the failing point are set.
+  and tell the bytes handled before the failing point for records and lists; of a member or
+  item whose value fails, these are its 6 bytes of header. A scalar and a byte string that fail
+  to unpack stay as they were, and so does a list of more items than its array holds; else
+  members or items of a record or list that were read before the failing point are set.
 
 TarnIsXValid returns 1 if the value is in range: a scalar's number, a byte string's length, every
 member of a record, the count and every item of a list. Appending to a message or a composite IE
