@@ -28,8 +28,11 @@ uint32_t write_composite(const TarnIe *ie, TypeId id, Output out) {
 
 // Writes an IE of any kind but a number and returns its size, or returns 0 on failure.
 uint32_t write_larger_ie(const TarnIe *ie, TypeId id, Output out) {
-    if (is_composite(type_of(id).kind))
+    const Kind kind = type_of(id).kind;
+    if (is_composite(kind))
         return write_composite(ie, id, out);
+    if (builtForSpeed && kind == Kind::bytes)
+        return write_bytes_ie(id, value_of(ie), out);
     uint32_t size = 0;
     return write_tlv(id, value_of(ie), out, &size) ? size : 0;
 }

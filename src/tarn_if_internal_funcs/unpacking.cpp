@@ -118,6 +118,32 @@ inline uint32_t read_number_slot(const Slot &slot, VelDllHead *list, Input in) {
     return size;
 }
 
+// Likewise, since only a valid length is taken here.
+uint32_t read_bytes_slot(const Slot &slot, VelDllHead *list, Input in) {
+    if (!in.has_tag(slot.type) || in.left < headerSize)
+        return leave_out(slot, Fate::absent, false);
+    const uint32_t length = load32(in.at + tagSize);
+    if (length > in.left - headerSize || !in_range(type_of(slot.type), length))
+        return leave_out(slot, Fate::absent, false);
+    TarnIe *ie = create_head(slot.type, TARN_CALLER(moduleInternal));
+    auto *value = static_cast<uint32_t *>(value_of(ie));
+    *value = length;
+    memcpy(value + 1, in.at + headerSize, length);
+    link_ie(list, ie, TARN_CALLER(moduleInternal));
+    return headerSize + length;
+}
+
+[[gnu::always_inline]] inline uint32_t read_slot(const Slot &slot, VelDllHead *list, Input in,
+                                                 Conditions *conditions) {
+    if (builtForSpeed && !is_conditional(slot)) {
+        if (is_number(slot.kind))
+            return read_number_slot(slot, list, in);
+        if (slot.kind == Kind::bytes)
+            return read_bytes_slot(slot, list, in);
+    }
+    return read_any_slot(slot, list, in, conditions);
+}
+
 // The bytes have ended before this slot. RelocationRequired refuses to end before a child that is
 // called for; RabParams ends, and its validator then finds it incomplete; IapReset just ends.
 bool may_end(const Slot *slot, const Slot *end, Conditions *conditions, bool *valid) {
@@ -147,9 +173,7 @@ bool read_slots(const SlotTable &table, VelDllHead *list, Input *in, bool *valid
             ok = may_end(slot, end, &conditions, valid);
             break;
         }
-        const uint32_t size = builtForSpeed && is_number(slot->kind) && !is_conditional(*slot)
-                                  ? read_number_slot(*slot, list, rest)
-                                  : read_any_slot(*slot, list, rest, &conditions);
+        const uint32_t size = read_slot(*slot, list, rest, &conditions);
         ok = size != refused;
         if (ok)
             rest.skip(size);

@@ -114,6 +114,18 @@ inline uint32_t stored_count(const void *value) {
     return *static_cast<const uint32_t *>(value);
 }
 
+// Writes a whole byte string IE and returns its size, or returns 0 when it does not fit or its
+// length is beyond its array.
+inline uint32_t write_bytes_ie(TypeId id, const void *value, Output out) {
+    const uint32_t length = stored_count(value);
+    if (length > type_of(id).capacity || out.left < headerSize || length > out.left - headerSize)
+        return 0;
+    store16(out.at, id);
+    store32(out.at + tagSize, length);
+    memcpy(out.at + headerSize, static_cast<const uint32_t *>(value) + 1, length);
+    return headerSize + length;
+}
+
 // Copies a whole value record, for a byte string with all of its array.
 inline void copy_value(const Type &type, void *to, const void *from) {
     if (is_number(type.kind))
