@@ -64,6 +64,26 @@ TEST_F(MessageRoundTrip, EveryMessageWithAllSomeAndNoOptionalIes) {
     }
 }
 
+// Buffers may start anywhere: nothing in them is read or written but byte by byte.
+TEST_F(MessageRoundTrip, BuffersAtAnyAddress) {
+    Random random(6);
+    for (const Message *message : protocol::messages()) {
+        SCOPED_TRACE(message->name);
+        const Bytes expected =
+            samples::encode(samples::make_message(*message, Amount::most, random));
+        const auto size = std::uint32_t(expected.size());
+        for (std::size_t offset = 1; offset < 8; ++offset) {
+            Bytes received(offset, 0);
+            received.insert(received.end(), expected.begin(), expected.end());
+            const MsgPtr msg(message->unpack(received.data() + offset, size));
+            ASSERT_NE(msg, nullptr);
+            Bytes sent(offset + expected.size());
+            EXPECT_EQ(message->pack(msg.get(), sent.data() + offset, size), 1U);
+            EXPECT_EQ(sent, received);
+        }
+    }
+}
+
 TEST_F(MessageRoundTrip, BothKindsOfRelocationAndReset) {
     Random random(2);
     for (const std::uint32_t id : {18U, 24U})
