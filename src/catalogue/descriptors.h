@@ -181,10 +181,6 @@ inline TypeId type_of_tag(uint32_t tag) {
     return tag <= lastTag ? TypeId(tag) : TypeId(0);
 }
 
-inline bool is_composite(const Type &type) {
-    return type.kind >= Kind::sequence;
-}
-
 } // namespace tarn
 
 #endif

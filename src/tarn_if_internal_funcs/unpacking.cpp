@@ -1,5 +1,7 @@
 #include "tarn_if_internal_funcs/unpacking.h"
 
+#include <string.h>
+
 #include "tarn_if_api/objects.h"
 #include "tarn_if_conditional_funcs/conditions.h"
 #include "tarn_if_internal_funcs/slots.h"
@@ -25,8 +27,7 @@ inline uint32_t read_ie(TarnIe *ie, TypeId id, Input in, bool *valid) {
     if (!is_composite(type.kind)) {
         if (!read_tlv(id, value_of(ie), in, &size))
             return 0;
-        *valid = type.kind == Kind::bytes ? in_range(type, stored_count(value_of(ie)))
-                                          : value_is_valid(id, value_of(ie));
+        *valid = value_is_valid(id, value_of(ie));
         return size;
     }
     xVelDllInitHead(children_of(ie), 0, moduleInternal, __LINE__);
