@@ -25,7 +25,7 @@ count tarn_count
 if [ "${1:-}" = profile ]; then
     callgrind_annotate --threshold=100 \
         "$(grep -lx "desc: Trigger: Client Request: $2/2" "$build"/tarn_count.callgrind*)" |
-        grep -v "main\|ld-linux"
+        grep -v "below main\|:main \[\|libc_start_main\|ld-linux"
     exit
 fi
 # Repetitions in random order, so that a busy moment does not fall on one operation alone; several
