@@ -5,6 +5,7 @@
 
 #include <stdint.h>
 
+#include "build_goal.h"
 #include "tarn_if.h"
 #include "vel_platform.h"
 
@@ -22,27 +23,34 @@ inline constexpr char moduleConditional[] = "tarn_if_conditional_funcs";
 
 #define TARN_CALLER(module_) (::tarn::Caller{::tarn::module_, __LINE__})
 
-// Reports every null pointer among the `count` given, in their order.
-[[gnu::cold]] void report_nulls(Caller caller, const void *const *pointers, unsigned count);
+// Reports every null pointer among those given, in their order.
+[[gnu::cold]] void report_nulls(Caller caller, const void *first, const void *second = "",
+                                const void *third = "");
 
 // True when an argument is missing; each missing one has then been reported. The host's report is
 // not expected to return, and where it does the operation fails instead of using the null.
 template <class... Pointers>
-inline bool any_null(Caller caller, const Pointers *...pointers) {
+TARN_INLINE bool any_null(Caller caller, const Pointers *...pointers) {
     if ((... && (pointers != nullptr))) [[likely]]
         return false;
-    const void *const all[] = {pointers...};
-    report_nulls(caller, all, sizeof...(pointers));
+    report_nulls(caller, pointers...);
     return true;
 }
 
-inline void *allocate(uint32_t size, Caller caller) {
-    void *block = nullptr;
-    velAllocMemoryWithIds(size, &block, caller.module, caller.line);
-    return block;
+// The variable is null when the host gets it. It is cleared through a pointer that the compiler
+// does not see through: cleared and read under the same stack address, it is taken by some
+// processors to hold the null still after the call, and the whole creation of an IE is then thrown
+// away and done again.
+TARN_INLINE void *allocate(uint32_t size, Caller caller) {
+    void *block;
+    void **variable = &block;
+    asm("" : "+r"(variable));
+    *variable = nullptr;
+    velAllocMemoryWithIds(size, variable, caller.module, caller.line);
+    return block; // NOLINT(clang-analyzer-core.uninitialized.UndefReturn)
 }
 
-inline void release(void *block, Caller caller) {
+TARN_INLINE void release(void *block, Caller caller) {
     velFreeMemoryWithIds(&block, caller.module, caller.line);
 }
 
@@ -57,15 +65,15 @@ inline const TarnIe *head_of(const Object *ie) {
 }
 
 // A node is the first field of its IE object, so the addresses are the same.
-inline TarnIe *first_ie(const VelDllHead *list, Caller caller) {
+TARN_INLINE TarnIe *first_ie(const VelDllHead *list, Caller caller) {
     return reinterpret_cast<TarnIe *>(xVelDllGetHead(list, caller.module, caller.line));
 }
 
-inline TarnIe *next_ie(const VelDllHead *list, const TarnIe *ie, Caller caller) {
+TARN_INLINE TarnIe *next_ie(const VelDllHead *list, const TarnIe *ie, Caller caller) {
     return reinterpret_cast<TarnIe *>(xVelDllGetNext(list, &ie->node, caller.module, caller.line));
 }
 
-inline void link_ie(VelDllHead *list, TarnIe *ie, Caller caller) {
+TARN_INLINE void link_ie(VelDllHead *list, TarnIe *ie, Caller caller) {
     xVelDllAddToTail(list, &ie->node, caller.module, caller.line);
 }
 

@@ -9,6 +9,8 @@
 
 #include <stdint.h>
 
+#include "build_goal.h"
+
 namespace [[gnu::visibility("hidden")]] tarn {
 
 enum TypeId : uint8_t {
@@ -29,14 +31,6 @@ enum TypeId : uint8_t {
 #include "catalogue/primitive_ies.def"
     typeCount
 };
-
-// Built for size (-Os), the engine goes the general way for everything; built for speed, it has
-// short ways for numbers, which are most of what travels.
-#ifdef __OPTIMIZE_SIZE__
-inline constexpr bool builtForSpeed = false;
-#else
-inline constexpr bool builtForSpeed = true;
-#endif
 
 enum MessageNumber : uint8_t {
 #define MESSAGE(name_, id_, ...) message##name_ = id_,
@@ -169,17 +163,6 @@ struct Catalogue {
     Member members[memberCapacity];
     Condition conditions[always];
 };
-
-extern const Catalogue catalogue; // constexpr where it is defined
-
-inline const Type &type_of(TypeId id) {
-    return catalogue.types[id];
-}
-
-// A tag from the wire or from an object as a type; a tag that the protocol lacks has kind none.
-inline TypeId type_of_tag(uint32_t tag) {
-    return tag <= lastTag ? TypeId(tag) : TypeId(0);
-}
 
 } // namespace tarn
 

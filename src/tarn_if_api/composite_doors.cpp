@@ -25,10 +25,10 @@ using namespace tarn;
     COMPOSITE_CHILD_DOORS(name_, element_)
 #define PRIMITIVE_SLOT(owner_, child_, ...)                                                        \
     uint32_t TarnAppend##child_##To##owner_##Ie(Tarn##owner_##Ie *ie, const Tarn##child_ *value) { \
-        return append(head_of(ie), value, type##child_);                                           \
+        return append(head_of(ie), value, asBuilt<type##child_>);                                  \
     }                                                                                              \
     uint32_t TarnExtract##child_##From##owner_##Ie(Tarn##owner_##Ie *ie, Tarn##child_ *value) {    \
-        return extract(head_of(ie), value, type##child_);                                          \
+        return extract(head_of(ie), value, asBuilt<type##child_>);                                 \
     }
 #define COMPOSITE_SLOT(owner_, child_, ...) COMPOSITE_CHILD_DOORS(owner_, child_)
 #include "catalogue/composite_ies.def"

@@ -6,43 +6,59 @@
 #define TARN_MEMBERS_H
 
 #include "tarn_if_api/objects.h"
+#include "tarn_if_internal_funcs/constants.h"
+#include "tarn_if_internal_funcs/values.h"
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
-// Links a new primitive IE holding a copy of the value, and returns true; or returns false for a
-// value out of range, with the list as it was. Position and duplicates are the validators' affair.
-bool append_copy(VelDllHead *list, TypeId id, const void *value, Caller caller);
+inline VelDllHead *list_of(TarnMsg *owner) {
+    return &owner->ies;
+}
+inline VelDllHead *list_of(TarnIe *owner) {
+    return children_of(owner);
+}
 
-// The operations of the public interface, by owner and by value. Numbers have overloads of their
-// own because nearly everything in a message is one: the door's pointer type picks the short way,
-// and no kind needs to be asked for.
-uint32_t append(TarnMsg *owner, const uint8_t *value, TypeId id);
-uint32_t append(TarnMsg *owner, const uint16_t *value, TypeId id);
-uint32_t append(TarnMsg *owner, const uint32_t *value, TypeId id);
-uint32_t append(TarnMsg *owner, const void *value, TypeId id);
-uint32_t append(TarnIe *owner, const uint8_t *value, TypeId id);
-uint32_t append(TarnIe *owner, const uint16_t *value, TypeId id);
-uint32_t append(TarnIe *owner, const uint32_t *value, TypeId id);
-uint32_t append(TarnIe *owner, const void *value, TypeId id);
+// ---- Append ------------------------------------------------------------------------------------
 
-uint32_t extract(TarnMsg *owner, uint8_t *value, TypeId id);
-uint32_t extract(TarnMsg *owner, uint16_t *value, TypeId id);
-uint32_t extract(TarnMsg *owner, uint32_t *value, TypeId id);
-uint32_t extract(TarnMsg *owner, void *value, TypeId id);
-uint32_t extract(TarnIe *owner, uint8_t *value, TypeId id);
-uint32_t extract(TarnIe *owner, uint16_t *value, TypeId id);
-uint32_t extract(TarnIe *owner, uint32_t *value, TypeId id);
-uint32_t extract(TarnIe *owner, void *value, TypeId id);
+// Links a new primitive IE holding a copy of the value, and returns 1; or returns 0 for a value out
+// of range, with the list as it was. Position and duplicates are the validators' affair. Built for
+// speed, there is one for each type.
+template <class Id>
+uint32_t append_value(VelDllHead *list, Id id, const void *value);
+
+template <class Owner, class Id>
+TARN_INLINE uint32_t append(Owner *owner, const void *value, Id id) {
+    if (any_null(TARN_CALLER(moduleApi), owner, value))
+        return 0;
+    return append_value(list_of(owner), id, value);
+}
+
+// The MessageId IE, whose append is one of the codecs.
+uint32_t append_message_id(TarnMsg *msg, const TarnMessageId *value);
 
 // A composite is linked unseen: neither its tag nor its validity matters until the owner is
 // validated or packed.
-uint32_t link(TarnMsg *owner, TarnIe *child);
-uint32_t link(TarnIe *owner, TarnIe *child);
+template <class Owner>
+uint32_t link(Owner *owner, TarnIe *child);
 
-uint32_t borrow(TarnMsg *owner, TarnIe **child, TypeId id);
-uint32_t borrow(TarnIe *owner, TarnIe **child, TypeId id);
+// ---- Extract -----------------------------------------------------------------------------------
 
-uint32_t append_message_id(TarnMsg *msg, const TarnMessageId *value);
+template <class Owner, class Number>
+uint32_t extract_number(Owner *owner, Number *value, uint32_t tag);
+template <class Owner, class Id>
+uint32_t extract_value(Owner *owner, void *value, Id id);
+
+// Built for speed, numbers share a function for each width and all else has one for each type.
+template <class Owner, class Value, class Id>
+TARN_INLINE uint32_t extract(Owner *owner, Value *value, Id id) {
+    if constexpr (builtForSpeed && std::is_integral_v<Value>)
+        return extract_number(owner, value, id);
+    else
+        return extract_value(owner, value, id);
+}
+
+template <class Owner>
+uint32_t borrow(Owner *owner, TarnIe **child, uint32_t tag);
 
 } // namespace tarn
 

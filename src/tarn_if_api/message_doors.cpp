@@ -8,7 +8,7 @@ using namespace tarn;
 
 #define PRIMITIVE_EXTRACT_DOOR(owner_, child_)                                                     \
     uint32_t TarnExtract##child_##From##owner_##Msg(TarnMsg *msg, Tarn##child_ *value) {           \
-        return extract(msg, value, type##child_);                                                  \
+        return extract(msg, value, asBuilt<type##child_>);                                         \
     }
 
 #define MESSAGE(name_, ...)                                                                        \
@@ -19,21 +19,21 @@ using namespace tarn;
         return msg_is_valid(msg, message##name_);                                                  \
     }                                                                                              \
     uint32_t TarnPack##name_##Msg(const TarnMsg *msg, uint8_t *buffer, uint32_t size) {            \
-        return pack_msg(msg, buffer, size, message##name_);                                        \
+        return pack_msg(msg, buffer, size, asBuilt<message##name_>);                               \
     }                                                                                              \
     uint32_t TarnBuild##name_##Msg(uint8_t *buffer, uint32_t size,                                 \
                                    const Tarn##name_##Record *record) {                            \
-        return build_msg(buffer, size, record, message##name_);                                    \
+        return build_msg(buffer, size, record, asBuilt<message##name_>);                           \
     }                                                                                              \
     uint32_t TarnGet##name_##Msg(const uint8_t *buffer, uint32_t length,                           \
                                  Tarn##name_##Record *record) {                                    \
-        return get_msg(buffer, length, record, message##name_);                                    \
+        return get_msg(buffer, length, record, asBuilt<message##name_>);                           \
     }                                                                                              \
     PRIMITIVE_EXTRACT_DOOR(name_, MessageId)
 
 #define PRIMITIVE_SLOT(owner_, child_, ...)                                                        \
     uint32_t TarnAppend##child_##To##owner_##Msg(TarnMsg *msg, const Tarn##child_ *value) {        \
-        return append(msg, value, type##child_);                                                   \
+        return append(msg, value, asBuilt<type##child_>);                                          \
     }                                                                                              \
     PRIMITIVE_EXTRACT_DOOR(owner_, child_)
 

@@ -1,7 +1,6 @@
 #include "tarn_if_api/messages.h"
 
 #include "tarn_if_api/members.h"
-#include "tarn_if_internal_funcs/packing.h"
 #include "tarn_if_internal_funcs/sizes.h"
 #include "tarn_if_internal_funcs/unpacking.h"
 #include "tarn_if_internal_funcs/validity.h"
@@ -10,8 +9,7 @@ namespace tarn {
 
 TarnMsg *new_msg(MessageNumber id) {
     TarnMsg *msg = create_msg(id, TARN_CALLER(moduleApi));
-    const TarnMessageId value = id;
-    append_message_id(msg, &value);
+    link_message_id(msg, id);
     return msg;
 }
 
@@ -20,16 +18,7 @@ uint32_t msg_is_valid(const TarnMsg *msg, MessageNumber id) {
            slots_are_valid(catalogue.messages[id].slots, &msg->ies);
 }
 
-// Room is checked IE by IE, so a message that fits, as it nearly always does, is walked once. Only
-// when it could not be written is its size asked for, to tell a buffer that is too small from an IE
-// that does not belong or cannot be packed. What the buffer holds after a fatal error means
-// nothing.
-uint32_t pack_msg(const TarnMsg *msg, uint8_t *buffer, uint32_t size, MessageNumber id) {
-    if (any_null(TARN_CALLER(moduleApi), msg, buffer))
-        return 0;
-    Output out{buffer, size};
-    if (write_slots(catalogue.messages[id].slots, &msg->ies, &out))
-        return 1;
+uint32_t fail_pack(const TarnMsg *msg, uint32_t size) {
     if (ies_size(&msg->ies) > size)
         velSwFatalError("", moduleApi, __LINE__);
     return 0;
@@ -41,10 +30,9 @@ uint32_t unpack_new_msg(const uint8_t *buffer, uint32_t length, TarnMsg **msg) {
         *msg = nullptr;
     if (missing)
         return 0;
-    const uint32_t id = peek_message_id(buffer, length);
-    if (id < messageCount && catalogue.messages[id].slots.count != 0)
-        *msg = unpack_msg(buffer, length, MessageNumber(id));
-    return *msg != nullptr;
+    TarnMsg *unpacked = unpack_msg_of_any_type(buffer, length);
+    *msg = unpacked;
+    return unpacked != nullptr;
 }
 
 } // namespace tarn

@@ -1,24 +1,13 @@
 #include "tarn_if_api/objects.h"
 
+#include <initializer_list>
+
 namespace tarn {
 
-void report_nulls(Caller caller, const void *const *pointers, unsigned count) {
-    for (unsigned i = 0; i < count; ++i)
-        if (pointers[i] == nullptr)
+void report_nulls(Caller caller, const void *first, const void *second, const void *third) {
+    for (const void *pointer : {first, second, third})
+        if (pointer == nullptr)
             velSwFatalError("", caller.module, caller.line);
-}
-
-TarnIe *create_composite(TypeId id, Caller caller) {
-    TarnIe *ie = create_head(id, caller);
-    xVelDllInitHead(children_of(ie), 0, caller.module, caller.line);
-    return ie;
-}
-
-TarnMsg *create_msg(MessageNumber id, Caller caller) {
-    auto *msg = static_cast<TarnMsg *>(allocate(sizeof(TarnMsg), caller));
-    xVelDllInitHead(&msg->ies, 0, caller.module, caller.line);
-    msg->messageId = id;
-    return msg;
 }
 
 namespace {
@@ -41,14 +30,14 @@ void reset_all(VelDllHead *list) {
 
 void reset_ie(TarnIe *ie) {
     ie->extractHistory = 0;
-    if (is_composite(type_of(type_of_tag(ie->tag)).kind))
+    if (has_children(ie))
         reset_all(children_of(ie));
 }
 
 } // namespace
 
 void delete_ie(TarnIe *ie) {
-    if (is_composite(type_of(type_of_tag(ie->tag)).kind))
+    if (has_children(ie))
         delete_all(children_of(ie));
     release(ie, TARN_CALLER(moduleApi));
 }

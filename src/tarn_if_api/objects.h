@@ -2,7 +2,7 @@
 #ifndef TARN_OBJECTS_H
 #define TARN_OBJECTS_H
 
-#include "catalogue/descriptors.h"
+#include "catalogue/catalogue.h"
 #include "platform_calls.h"
 
 namespace [[gnu::visibility("hidden")]] tarn {
@@ -22,7 +22,7 @@ inline const VelDllHead *children_of(const TarnIe *ie) {
 }
 
 // Returns a new IE object: unlinked, not yet extracted, with its value or children still to be set.
-inline TarnIe *create_head(TypeId id, Caller caller) {
+TARN_INLINE TarnIe *create_head(TypeId id, Caller caller) {
     auto *ie =
         static_cast<TarnIe *>(allocate(uint32_t(sizeof(TarnIe)) + type_of(id).valueSize, caller));
     xVelDllInitNode(&ie->node, caller.module, caller.line);
@@ -32,10 +32,33 @@ inline TarnIe *create_head(TypeId id, Caller caller) {
 }
 
 // Returns a new composite IE object without children.
-TarnIe *create_composite(TypeId id, Caller caller);
+TARN_INLINE TarnIe *create_composite(TypeId id, Caller caller) {
+    TarnIe *ie = create_head(id, caller);
+    xVelDllInitHead(children_of(ie), 0, caller.module, caller.line);
+    return ie;
+}
 
 // Returns a new message object without any IE.
-TarnMsg *create_msg(MessageNumber id, Caller caller);
+TARN_INLINE TarnMsg *create_msg(MessageNumber id, Caller caller) {
+    auto *msg = static_cast<TarnMsg *>(allocate(sizeof(TarnMsg), caller));
+    xVelDllInitHead(&msg->ies, 0, caller.module, caller.line);
+    msg->messageId = id;
+    return msg;
+}
+
+// Links a new MessageId IE and returns 1.
+TARN_INLINE uint32_t link_message_id(TarnMsg *msg, TarnMessageId id) {
+    const Caller caller = TARN_CALLER(moduleInternal);
+    TarnIe *ie = create_head(typeMessageId, caller);
+    *static_cast<TarnMessageId *>(value_of(ie)) = id;
+    link_ie(&msg->ies, ie, caller);
+    return 1;
+}
+
+// Whether an IE object of this tag has children. A tag that the protocol lacks has none.
+TARN_INLINE bool has_children(const TarnIe *ie) {
+    return ie->tag <= lastTag && is_composite(type_of(TypeId(ie->tag)).kind);
+}
 
 // Releases the IE object and all below it. It must not be linked any more.
 void delete_ie(TarnIe *ie);

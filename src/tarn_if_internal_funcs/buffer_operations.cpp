@@ -1,4 +1,5 @@
 // The buffer primitives and sizes of the public interface.
+#include "catalogue/catalogue.h"
 #include "platform_calls.h"
 #include "tarn_if_internal_funcs/sizes.h"
 #include "tarn_if_internal_funcs/unpacking.h"

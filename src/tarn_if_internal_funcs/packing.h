@@ -8,9 +8,15 @@
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
-// Writes the IEs of a list in list order, each of which must have a slot in the table, and advances
-// `out` by what was written; false at the first that has none or cannot be written.
-bool write_slots(const SlotTable &table, const VelDllHead *list, Output *out);
+struct Writing {
+    uint32_t size; // up to the point of failure if there was one
+    bool ok;
+};
+
+// Writes a message's IEs in list order; fails at the first that has no slot in the message or
+// cannot be written.
+template <class Id>
+Writing write_msg(Id id, const VelDllHead *list, Output out);
 
 // The operations of the public interface. *written is set on success and on failure, but not when a
 // pointer is missing.

@@ -11,177 +11,225 @@ namespace tarn {
 
 namespace {
 
-// Why a child was not taken.
-enum class Fate : uint8_t {
-    absent,   // another tag, or bytes that do not decode
-    invalid,  // decoded, out of its range or rules
-    uncalled, // valid, but its condition does not call for it
+// What came of reading, down to the bytes used up: to the point of failure if there was one.
+enum class Verdict : uint32_t {
+    failed,
+    invalid, // read, but its validator would refuse it
+    valid,
+};
+struct Reading {
+    uint32_t size;
+    Verdict verdict;
 };
 
-bool read_children(const Type &type, VelDllHead *children, Input *in, uint32_t length, bool *valid);
+// What a slot or list took from the bytes: an IE's size, or why there is none. An IE has at least
+// its header, so the reasons are no sizes.
+using Taken = uint32_t;
+constexpr Taken absent = 0;   // another tag, or bytes that do not decode
+constexpr Taken invalid = 1;  // decoded, out of its range or rules
+constexpr Taken uncalled = 2; // valid, but its condition does not call for it
 
-// Fills an IE object from bytes that carry its tag, and returns its size on the wire, or returns 0.
-inline uint32_t read_ie(TarnIe *ie, TypeId id, Input in, bool *valid) {
-    const Type &type = type_of(id);
-    uint32_t size = 0;
-    if (!is_composite(type.kind)) {
-        if (!read_tlv(id, value_of(ie), in, &size))
-            return 0;
-        *valid = value_is_valid(id, value_of(ie));
-        return size;
-    }
-    xVelDllInitHead(children_of(ie), 0, moduleInternal, __LINE__);
-    if (in.left < headerSize)
-        return 0;
-    Input rest = in;
-    rest.skip(headerSize);
-    const bool ok = read_children(type, children_of(ie), &rest, load32(in.at + tagSize), valid);
-    return ok ? in.left - rest.left : 0;
+constexpr bool is_taken(Taken taken) {
+    return taken > uncalled;
 }
 
-// Makes a child from bytes that carry its tag, links it if it is valid and called for, and returns
-// its size on the wire; or returns 0, with nothing left of it.
-uint32_t take_child(TypeId id, VelDllHead *list, Input in, bool calledFor, Fate *fate) {
-    TarnIe *ie = create_head(id, TARN_CALLER(moduleInternal));
-    bool valid = false;
-    const uint32_t size = read_ie(ie, id, in, &valid);
-    if (size != 0 && valid && calledFor) [[likely]] {
+template <class Id>
+TARN_INLINE Reading read_children(Id id, VelDllHead *children, Input in, uint32_t length);
+
+// Each fills an IE object from bytes that carry its tag.
+template <class Id>
+TARN_INLINE Reading read_primitive(TarnIe *ie, Id id, Input in) {
+    uint32_t size = 0;
+    if (!read_tlv(id, value_of(ie), in, &size))
+        return {0, Verdict::failed};
+    return {size, value_is_valid(id, value_of(ie)) ? Verdict::valid : Verdict::invalid};
+}
+
+template <class Id>
+TARN_INLINE Reading read_composite(TarnIe *ie, Id id, Input in) {
+    if (in.left < headerSize)
+        return {0, Verdict::failed};
+    const uint32_t length = load32(in.at + tagSize);
+    in.skip(headerSize);
+    Reading reading = read_children(id, children_of(ie), in, length);
+    reading.size += headerSize;
+    return reading;
+}
+
+// Links a child that is valid and called for, and releases any other.
+TARN_INLINE Taken link_or_release(TarnIe *ie, VelDllHead *list, Reading reading, bool calledFor) {
+    if (reading.verdict == Verdict::valid && calledFor) [[likely]] {
         link_ie(list, ie, TARN_CALLER(moduleInternal));
-        return size;
+        return reading.size;
     }
     delete_ie(ie);
-    *fate = size == 0 ? Fate::absent : !valid ? Fate::invalid : Fate::uncalled;
-    return 0;
+    if (reading.verdict == Verdict::failed)
+        return absent;
+    return reading.verdict == Verdict::invalid ? invalid : uncalled;
+}
+
+template <class Id>
+[[gnu::noinline]] Taken take_primitive(Id id, VelDllHead *list, Input in, bool calledFor) {
+    TarnIe *ie = create_head(id, TARN_CALLER(moduleInternal));
+    return link_or_release(ie, list, read_primitive(ie, id, in), calledFor);
+}
+
+template <class Id>
+[[gnu::noinline]] Taken take_composite(Id id, VelDllHead *list, Input in, bool calledFor) {
+    TarnIe *ie = create_composite(id, TARN_CALLER(moduleInternal));
+    return link_or_release(ie, list, read_composite(ie, id, in), calledFor);
+}
+
+// Makes a child from bytes that carry its tag.
+template <class Id>
+TARN_INLINE Taken take_child(Id id, VelDllHead *list, Input in, bool calledFor) {
+    return by_nesting(
+        id,
+        [&](auto primitive)
+            TARN_INLINE_LAMBDA { return take_primitive(as_coded(primitive), list, in, calledFor); },
+        [&](auto composite) TARN_INLINE_LAMBDA {
+            return with_composite(composite, [&](auto known) TARN_INLINE_LAMBDA {
+                return take_composite(known, list, in, calledFor);
+            });
+        });
 }
 
 // An element is bounded by the buffer, not by the budget. One that takes more than the budget makes
 // it wrap: the walk then goes on until the buffer is used up, and fails.
-bool read_elements(const Type &list, VelDllHead *children, Input *in, uint32_t budget,
-                   bool *valid) {
+template <class Id>
+TARN_INLINE Reading read_elements(Id list, VelDllHead *children, Input in, uint32_t budget) {
+    const auto element = element_of(list);
+    const uint32_t available = in.left;
     uint32_t count = 0;
-    Fate fate{};
-    while (in->left != 0 && budget != 0) {
-        const uint32_t size = in->has_tag(list.array.item)
-                                  ? take_child(list.array.item, children, *in, true, &fate)
-                                  : 0;
-        if (size == 0)
-            return false;
-        in->skip(size);
-        budget -= size;
+    while (in.left != 0 && budget != 0) {
+        const Taken taken = in.has_tag(element) ? take_child(element, children, in, true) : absent;
+        if (!is_taken(taken))
+            return {available - in.left, Verdict::failed};
+        in.skip(taken);
+        budget -= taken;
         ++count;
     }
-    *valid = count >= list.least && count <= list.greatest;
-    return budget == 0;
-}
-
-// A sequence's length is read and not used: its children are those that its slots find in the rest
-// of the buffer. A list's length is the budget of its elements.
-bool read_children(const Type &type, VelDllHead *children, Input *in, uint32_t length,
-                   bool *valid) {
-    if (type.kind == Kind::sequence)
-        return read_slots(type.slots, children, in, valid);
-    return read_elements(type, children, in, length, valid);
+    if (budget != 0)
+        return {available, Verdict::failed};
+    const bool valid = count >= type_of(list).least && count <= type_of(list).greatest;
+    return {available - in.left, valid ? Verdict::valid : Verdict::invalid};
 }
 
 // ---- Slots of a sequence composite or a message ------------------------------------------------
 
-// What a slot took of the bytes: an IE's size, nothing, or this when the owner is refused.
-constexpr uint32_t refused = UINT32_MAX;
-
-uint32_t leave_out(const Slot &slot, Fate fate, bool calledFor) {
-    if (slot.presence == Presence::mandatory)
-        return refused;
-    if (!is_conditional(slot))
-        return 0;
-    const bool refuses = fate == Fate::absent ? calledFor : slot.rule == UnpackRule::refuseUncalled;
-    return refuses ? refused : 0;
-}
-
-uint32_t read_any_slot(const Slot &slot, VelDllHead *list, Input in, Conditions *conditions) {
-    const bool calledFor = !is_conditional(slot) || conditions->hold(slot.condition);
-    Fate fate = Fate::absent;
-    // No object is made for a child whose tag is not there.
-    const uint32_t size =
-        in.has_tag(slot.type) ? take_child(slot.type, list, in, calledFor, &fate) : 0;
-    return size != 0 ? size : leave_out(slot, fate, calledFor);
+// Links a new IE object and returns it, with its value still to be set.
+TARN_INLINE TarnIe *link_new(VelDllHead *list, TypeId id) {
+    TarnIe *ie = create_head(id, TARN_CALLER(moduleInternal));
+    link_ie(list, ie, TARN_CALLER(moduleInternal));
+    return ie;
 }
 
 // Most slots hold a number that is mandatory. It is decoded before its object is made, so that a
 // failure leaves nothing to be released.
-inline uint32_t read_number_slot(const Slot &slot, VelDllHead *list, Input in) {
+template <class AnySlot>
+TARN_INLINE Taken take_number(const AnySlot &slot, VelDllHead *list, Input in) {
     uint32_t number = 0;
-    const uint32_t size = in.has_tag(slot.type) ? read_number_ie(slot.kind, in, &number) : 0;
+    const uint32_t size = read_number_ie(slot.kind, slot.type, in, &number);
     if (size == 0 || !in_range(type_of(slot.type), number))
-        return leave_out(slot, Fate::absent, false);
-    TarnIe *ie = create_head(slot.type, TARN_CALLER(moduleInternal));
+        return absent;
+    TarnIe *ie = link_new(list, slot.type);
     store_number(slot.kind, value_of(ie), number);
-    link_ie(list, ie, TARN_CALLER(moduleInternal));
     return size;
 }
 
 // Likewise, since only a valid length is taken here.
-uint32_t read_bytes_slot(const Slot &slot, VelDllHead *list, Input in) {
-    if (!in.has_tag(slot.type) || in.left < headerSize)
-        return leave_out(slot, Fate::absent, false);
+template <class AnySlot>
+TARN_INLINE Taken take_bytes(const AnySlot &slot, VelDllHead *list, Input in) {
+    if (in.left < headerSize || load16(in.at) != slot.type)
+        return absent;
     const uint32_t length = load32(in.at + tagSize);
     if (length > in.left - headerSize || !in_range(type_of(slot.type), length))
-        return leave_out(slot, Fate::absent, false);
-    TarnIe *ie = create_head(slot.type, TARN_CALLER(moduleInternal));
+        return absent;
+    TarnIe *ie = link_new(list, slot.type);
     auto *value = static_cast<uint32_t *>(value_of(ie));
     *value = length;
     memcpy(value + 1, in.at + headerSize, length);
-    link_ie(list, ie, TARN_CALLER(moduleInternal));
     return headerSize + length;
 }
 
-[[gnu::always_inline]] inline uint32_t read_slot(const Slot &slot, VelDllHead *list, Input in,
-                                                 Conditions *conditions) {
+// Fills a slot. No object is made for a child whose tag is not there.
+template <class AnySlot>
+TARN_INLINE Taken take(const AnySlot &slot, VelDllHead *list, Input in, Conditions *conditions) {
     if (builtForSpeed && !is_conditional(slot)) {
         if (is_number(slot.kind))
-            return read_number_slot(slot, list, in);
+            return take_number(slot, list, in);
         if (slot.kind == Kind::bytes)
-            return read_bytes_slot(slot, list, in);
+            return take_bytes(slot, list, in);
     }
-    return read_any_slot(slot, list, in, conditions);
+    if (!in.has_tag(slot.type))
+        return absent;
+    const bool calledFor = !is_conditional(slot) || conditions->hold(slot.condition);
+    return take_child(slot.type, list, in, calledFor);
+}
+
+// Whether the owner is refused because of a slot that was not filled.
+template <class AnySlot>
+inline bool refuses(const AnySlot &slot, Taken reason, Conditions *conditions) {
+    if (!is_conditional(slot))
+        return slot.presence == Presence::mandatory;
+    if (reason == absent)
+        return conditions->hold(slot.condition);
+    return slot.rule == UnpackRule::refuseUncalled;
 }
 
 // The bytes have ended before this slot. RelocationRequired refuses to end before a child that is
 // called for; RabParams ends, and its validator then finds it incomplete; IapReset just ends.
-bool may_end(const Slot *slot, const Slot *end, Conditions *conditions, bool *valid) {
+Verdict end_before(const Slot *slot, const Slot *end, Conditions *conditions) {
     if (slot->presence == Presence::mandatory)
-        return false;
+        return Verdict::failed;
+    Verdict verdict = Verdict::valid;
     for (; slot != end; ++slot) {
         if (!is_conditional(*slot) || slot->rule == UnpackRule::dropUncalled ||
             !conditions->hold(slot->condition))
             continue;
         if (slot->rule == UnpackRule::dropUncalledRequireAtEnd)
-            return false;
-        *valid = false;
+            return Verdict::failed;
+        verdict = Verdict::invalid;
     }
-    return true;
+    return verdict;
+}
+
+// Fills `list` from the bytes, slot by slot in table order, up to the last IE that was taken; fails
+// when the owner's rules refuse what the bytes hold. A walk that succeeds leaves nothing else to be
+// checked by a validator than the verdict that comes with it.
+template <class Owner>
+TARN_INLINE Reading read_slots(Owner owner, VelDllHead *list, Input in) {
+    Conditions conditions(list);
+    const uint32_t available = in.left;
+    Verdict verdict = Verdict::valid;
+    each_slot(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
+        const Taken taken = take(slot, list, in, &conditions);
+        if (is_taken(taken)) [[likely]] {
+            in.skip(taken);
+            return true;
+        }
+        if (in.left == 0) {
+            verdict = end_before(row_of(slot), slots_end(slots_of(owner)), &conditions);
+            return false;
+        }
+        if (!refuses(slot, taken, &conditions))
+            return true;
+        verdict = Verdict::failed;
+        return false;
+    });
+    return {available - in.left, verdict};
+}
+
+// A sequence's length is read and not used: its children are those that its slots find in the rest
+// of the buffer. A list's length is the budget of its elements.
+template <class Id>
+TARN_INLINE Reading read_children(Id id, VelDllHead *children, Input in, uint32_t length) {
+    return by_composite(
+        id, [&](auto sequence) TARN_INLINE_LAMBDA { return read_slots(sequence, children, in); },
+        [&](auto list) TARN_INLINE_LAMBDA { return read_elements(list, children, in, length); });
 }
 
 } // namespace
-
-bool read_slots(const SlotTable &table, VelDllHead *list, Input *in, bool *valid) {
-    Conditions conditions(list);
-    Input rest = *in;
-    bool ok = true;
-    *valid = true;
-    const Slot *const end = slots_end(table);
-    for (const Slot *slot = slots_begin(table); slot != end && ok; ++slot) {
-        if (rest.left == 0) {
-            ok = may_end(slot, end, &conditions, valid);
-            break;
-        }
-        const uint32_t size = read_slot(*slot, list, rest, &conditions);
-        ok = size != refused;
-        if (ok)
-            rest.skip(size);
-    }
-    *in = rest;
-    return ok;
-}
 
 uint32_t unpack_primitive_ie(TarnIe *ie, const uint8_t *buffer, uint32_t available,
                              uint32_t *consumed, TypeId id) {
@@ -206,36 +254,47 @@ uint32_t unpack_composite_ie(TarnIe *ie, const uint8_t *buffer, uint32_t availab
     if (available < headerSize)
         return 0;
     in.skip(headerSize);
-    bool valid = false;
-    const bool ok =
-        read_children(type_of(id), children_of(ie), &in, load32(buffer + tagSize), &valid);
-    *consumed = available - in.left;
-    return ok;
+    const Reading reading = read_children(id, children_of(ie), in, load32(buffer + tagSize));
+    *consumed = headerSize + reading.size;
+    return reading.verdict != Verdict::failed;
 }
 
-TarnMsg *unpack_msg(const uint8_t *buffer, uint32_t length, MessageNumber id) {
-    if (length == 0)
-        return nullptr;
+namespace {
+
+template <class Id>
+[[gnu::noinline]] TarnMsg *unpack_ies(Id id, Input in) {
     TarnMsg *msg = create_msg(id, TARN_CALLER(moduleInternal));
-    Input in{buffer, length};
-    bool valid = false;
-    if (read_slots(catalogue.messages[id].slots, &msg->ies, &in, &valid))
+    if (read_slots(id, &msg->ies, in).verdict != Verdict::failed) [[likely]]
         return msg;
     delete_msg(msg);
     return nullptr;
 }
 
+} // namespace
+
+TarnMsg *unpack_msg_of_any_type(const uint8_t *buffer, uint32_t length) {
+    const uint32_t id = peek_message_id(buffer, length);
+    if (id >= messageCount)
+        return nullptr;
+    return with_message(MessageNumber(id), [&](auto known) TARN_INLINE_LAMBDA {
+        return unpack_ies(known, Input{buffer, length});
+    });
+}
+
 TarnMsg *unpack_msg_checked(const uint8_t *buffer, uint32_t length, MessageNumber id) {
     if (any_null(TARN_CALLER(moduleInternal), buffer))
         return nullptr;
-    return unpack_msg(buffer, length, id);
+    if (length == 0)
+        return nullptr;
+    return with_message(id, [&](auto known) TARN_INLINE_LAMBDA {
+        return unpack_ies(known, Input{buffer, length});
+    });
 }
 
 uint32_t peek_message_id(const uint8_t *buffer, uint32_t length) {
     const Input in{buffer, length};
     uint32_t id = 0;
-    if (in.has_tag(typeMessageId))
-        read_number_ie(Kind::number8, in, &id);
+    read_number_ie(Kind::number8, typeMessageId, in, &id);
     return id;
 }
 

@@ -8,11 +8,6 @@
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
-// Fills `list` from the bytes, slot by slot in table order, and advances `in` behind the last IE
-// that was taken; false when the table's rules refuse what the bytes hold. *valid tells whether the
-// list would pass its validator: a walk that succeeds leaves nothing else to be checked.
-bool read_slots(const SlotTable &table, VelDllHead *list, Input *in, bool *valid);
-
 // The operations of the public interface. *consumed is set on success and on failure, but not when
 // a pointer is missing.
 uint32_t unpack_primitive_ie(TarnIe *ie, const uint8_t *buffer, uint32_t available,
@@ -20,10 +15,10 @@ uint32_t unpack_primitive_ie(TarnIe *ie, const uint8_t *buffer, uint32_t availab
 uint32_t unpack_composite_ie(TarnIe *ie, const uint8_t *buffer, uint32_t available,
                              uint32_t *consumed, TypeId id);
 
-// Returns the message that the bytes hold, or null with everything released. The id comes from the
-// type asked for: the value of the MessageId IE is not compared with it. Bytes behind the last IE
-// that the type knows are ignored.
-TarnMsg *unpack_msg(const uint8_t *buffer, uint32_t length, MessageNumber id);
+// Each returns the message that the bytes hold, or null with everything released. Bytes behind the
+// last IE that the type knows are ignored. The id of the type asked for is taken from the call: the
+// value of the MessageId IE is not compared with it.
+TarnMsg *unpack_msg_of_any_type(const uint8_t *buffer, uint32_t length);
 TarnMsg *unpack_msg_checked(const uint8_t *buffer, uint32_t length, MessageNumber id);
 
 // Returns the id in the MessageId IE that the bytes begin with, or 0.

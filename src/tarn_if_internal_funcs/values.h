@@ -8,7 +8,7 @@
 
 #include <string.h>
 
-#include "catalogue/descriptors.h"
+#include "tarn_if_internal_funcs/constants.h"
 #include "tarn_if_internal_funcs/wire.h"
 
 namespace [[gnu::visibility("hidden")]] tarn {
@@ -27,20 +27,67 @@ bool write_value(TypeId id, const void *value, Output out, uint32_t *written);
 // failure for a record or list.
 bool read_value(TypeId id, void *value, uint32_t length, Input in, uint32_t *consumed);
 
+// What the three below come to: for any type, and built for speed for each record and list.
+bool any_is_valid(TypeId id, const void *value);
+bool write_any_tlv(TypeId id, const void *value, Output out, uint32_t *written);
+bool read_any_tlv(TypeId id, void *value, Input in, uint32_t *consumed);
+template <class Id>
+bool known_is_valid(Id id, const void *value);
+template <class Id>
+bool write_known_tlv(Id id, const void *value, Output out, uint32_t *written);
+template <class Id>
+bool read_known_tlv(Id id, void *value, Input in, uint32_t *consumed);
+
+template <class Id>
+constexpr bool has_own_codec() {
+    if constexpr (isConstant<Id>)
+        return type_of(Id::value).kind == Kind::record || type_of(Id::value).kind == Kind::list;
+    else
+        return false;
+}
+
+// The constant for a type that has functions of its own, else the plain type: many types then share
+// what is compiled for it.
+template <class Id>
+constexpr auto as_coded(Id id) {
+    if constexpr (has_own_codec<Id>())
+        return id;
+    else
+        return TypeId(id);
+}
+
 // Whether the value lies in its type's range; for a record and a list, with all that it holds.
-bool value_is_valid(TypeId id, const void *value);
+template <class Id>
+TARN_INLINE bool value_is_valid(Id id, const void *value) {
+    if constexpr (has_own_codec<Id>())
+        return type_of(id).acceptsAll != 0 || known_is_valid(id, value);
+    else
+        return any_is_valid(id, value);
+}
 
 // Writes tag, length and value, setting *written, and returns true; or false with the bytes before
 // the point of failure: 0, or the header's 6 when the value cannot be written.
-bool write_tlv(TypeId id, const void *value, Output out, uint32_t *written);
+template <class Id>
+TARN_INLINE bool write_tlv(Id id, const void *value, Output out, uint32_t *written) {
+    if constexpr (has_own_codec<Id>())
+        return write_known_tlv(id, value, out, written);
+    else
+        return write_any_tlv(id, value, out, written);
+}
 
 // Reads tag, length and value, setting *consumed, and returns true; or false with the bytes before
 // the point of failure: 0 at the tag, 2 at the length, 6 at the value.
-bool read_tlv(TypeId id, void *value, Input in, uint32_t *consumed);
+template <class Id>
+TARN_INLINE bool read_tlv(Id id, void *value, Input in, uint32_t *consumed) {
+    if constexpr (has_own_codec<Id>())
+        return read_known_tlv(id, value, in, consumed);
+    else
+        return read_any_tlv(id, value, in, consumed);
+}
 
 // ---- Numbers -----------------------------------------------------------------------------------
 
-inline uint32_t load_number(Kind kind, const void *value) {
+TARN_INLINE uint32_t load_number(Kind kind, const void *value) {
     if (kind >= Kind::code)
         return *static_cast<const uint32_t *>(value);
     if (kind == Kind::number16)
@@ -48,7 +95,7 @@ inline uint32_t load_number(Kind kind, const void *value) {
     return *static_cast<const uint8_t *>(value);
 }
 
-inline void store_number(Kind kind, void *value, uint32_t number) {
+TARN_INLINE void store_number(Kind kind, void *value, uint32_t number) {
     if (kind >= Kind::code)
         *static_cast<uint32_t *>(value) = number;
     else if (kind == Kind::number16)
@@ -57,7 +104,7 @@ inline void store_number(Kind kind, void *value, uint32_t number) {
         *static_cast<uint8_t *>(value) = uint8_t(number);
 }
 
-inline uint32_t wire_width(Kind kind) {
+TARN_INLINE uint32_t wire_width(Kind kind) {
     if (kind == Kind::number32)
         return 4;
     return kind == Kind::number8 ? 1 : 2;
@@ -65,7 +112,7 @@ inline uint32_t wire_width(Kind kind) {
 
 // The bytes of a number on the wire. Of a code word only the low 16 bits travel, and callers may
 // leave flags of their own above them.
-inline void store_wire(uint8_t *at, uint32_t width, uint32_t number) {
+TARN_INLINE void store_wire(uint8_t *at, uint32_t width, uint32_t number) {
     if (width == 4)
         store32(at, number);
     else if (width == 2)
@@ -74,34 +121,33 @@ inline void store_wire(uint8_t *at, uint32_t width, uint32_t number) {
         *at = uint8_t(number);
 }
 
-inline uint32_t load_wire(const uint8_t *at, uint32_t width) {
+TARN_INLINE uint32_t load_wire(const uint8_t *at, uint32_t width) {
     if (width == 4)
         return load32(at);
     return width == 2 ? load16(at) : *at;
 }
 
-inline bool in_range(const Type &type, uint32_t number) {
+TARN_INLINE bool in_range(const Type &type, uint32_t number) {
     return number >= type.least && number <= type.greatest;
 }
 
 // ---- Whole IEs ---------------------------------------------------------------------------------
 
 // Writes a whole number IE and returns its size, or returns 0 when it does not fit.
-inline uint32_t write_number_ie(Kind kind, uint32_t tag, uint32_t number, Output out) {
+TARN_INLINE uint32_t write_number_ie(Kind kind, uint32_t tag, uint32_t number, Output out) {
     const uint32_t width = wire_width(kind);
     if (out.left < headerSize + width)
         return 0;
-    store16(out.at, tag);
-    store32(out.at + tagSize, width);
+    store_header(out.at, tag, width);
     store_wire(out.at + headerSize, width, number);
     return headerSize + width;
 }
 
-// Reads the number of an IE whose tag has been seen, and returns the IE's size, or returns 0 when
-// its length is not the number's width or the bytes end.
-inline uint32_t read_number_ie(Kind kind, Input in, uint32_t *number) {
+// Reads the number of a whole IE and returns the IE's size, or returns 0 when the tag is another,
+// the length is not the number's width or the bytes end.
+TARN_INLINE uint32_t read_number_ie(Kind kind, uint32_t tag, Input in, uint32_t *number) {
     const uint32_t width = wire_width(kind);
-    if (in.left < headerSize + width || load32(in.at + tagSize) != width)
+    if (in.left < headerSize + width || load16(in.at) != tag || load32(in.at + tagSize) != width)
         return 0;
     *number = load_wire(in.at + headerSize, width);
     return headerSize + width;
@@ -116,22 +162,36 @@ inline uint32_t stored_count(const void *value) {
 
 // Writes a whole byte string IE and returns its size, or returns 0 when it does not fit or its
 // length is beyond its array.
-inline uint32_t write_bytes_ie(TypeId id, const void *value, Output out) {
+TARN_INLINE uint32_t write_bytes_ie(TypeId id, const void *value, Output out) {
+    const Type &type = type_of(id);
     const uint32_t length = stored_count(value);
-    if (length > type_of(id).capacity || out.left < headerSize || length > out.left - headerSize)
+    const uint32_t *bytes = static_cast<const uint32_t *>(value) + 1;
+    // A string of one length only is copied by a move or two.
+    if (type.least == type.greatest && length == type.greatest &&
+        out.left >= headerSize + type.greatest) {
+        store_header(out.at, id, type.greatest);
+        memcpy(out.at + headerSize, bytes, type.greatest);
+        return headerSize + type.greatest;
+    }
+    if (length > type.capacity || out.left < headerSize || length > out.left - headerSize)
         return 0;
-    store16(out.at, id);
-    store32(out.at + tagSize, length);
-    memcpy(out.at + headerSize, static_cast<const uint32_t *>(value) + 1, length);
+    store_header(out.at, id, length);
+    memcpy(out.at + headerSize, bytes, length);
     return headerSize + length;
 }
 
-// Copies a whole value record, for a byte string with all of its array.
-inline void copy_value(const Type &type, void *to, const void *from) {
-    if (is_number(type.kind))
+// Copies a whole value record, for a byte string with all of its array. Large values are copied by
+// the C library, which knows the processor, and not by what the compiler would put here for any.
+TARN_INLINE void copy_value(const Type &type, void *to, const void *from) {
+    constexpr size_t smallSize = 64; // copied by a few moves
+    size_t size = type.valueSize;
+    if (is_number(type.kind)) {
         store_number(type.kind, to, load_number(type.kind, from));
-    else
-        memcpy(to, from, type.valueSize);
+        return;
+    }
+    if (builtForSpeed && size > smallSize)
+        asm("" : "+r"(size)); // no constant any more
+    memcpy(to, from, size);
 }
 
 } // namespace tarn

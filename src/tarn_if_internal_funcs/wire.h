@@ -8,28 +8,35 @@
 
 #include <stdint.h>
 
+#include "build_goal.h"
+
 namespace [[gnu::visibility("hidden")]] tarn {
 
 inline constexpr uint32_t tagSize = 2;
 inline constexpr uint32_t lengthSize = 4;
 inline constexpr uint32_t headerSize = tagSize + lengthSize;
 
-inline uint32_t load16(const uint8_t *at) {
+TARN_INLINE uint32_t load16(const uint8_t *at) {
     return uint32_t(at[0]) << 8 | at[1];
 }
 
-inline uint32_t load32(const uint8_t *at) {
+TARN_INLINE uint32_t load32(const uint8_t *at) {
     return load16(at) << 16 | load16(at + 2);
 }
 
-inline void store16(uint8_t *at, uint32_t value) {
+TARN_INLINE void store16(uint8_t *at, uint32_t value) {
     at[0] = uint8_t(value >> 8);
     at[1] = uint8_t(value);
 }
 
-inline void store32(uint8_t *at, uint32_t value) {
+TARN_INLINE void store32(uint8_t *at, uint32_t value) {
     store16(at, value >> 16);
     store16(at + 2, value);
+}
+
+TARN_INLINE void store_header(uint8_t *at, uint32_t tag, uint32_t length) {
+    store16(at, tag);
+    store32(at + tagSize, length);
 }
 
 // What is still to be read.
@@ -37,12 +44,12 @@ struct Input {
     const uint8_t *at;
     uint32_t left;
 
-    void skip(uint32_t count) {
+    TARN_INLINE void skip(uint32_t count) {
         at += count;
         left -= count;
     }
     // Whether an IE of this tag starts here, as far as its first two bytes tell.
-    bool has_tag(uint32_t tag) const { return left >= tagSize && load16(at) == tag; }
+    TARN_INLINE bool has_tag(uint32_t tag) const { return left >= tagSize && load16(at) == tag; }
 };
 
 // Room that is still to be written.
@@ -50,7 +57,7 @@ struct Output {
     uint8_t *at;
     uint32_t left;
 
-    void skip(uint32_t count) {
+    TARN_INLINE void skip(uint32_t count) {
         at += count;
         left -= count;
     }

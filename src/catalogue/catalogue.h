@@ -1,15 +1,16 @@
-// Makes the descriptors from the rows and checks what a row can get wrong.
-#include "catalogue/descriptors.h"
+// The catalogue: the descriptors that the rows make, at compile time.
+//
+// Whoever includes this sees the values and not just the shapes, so the compiler can work out at
+// once whatever hangs on a slot or a type that is named where the code is written.
+#ifndef TARN_CATALOGUE_H
+#define TARN_CATALOGUE_H
 
 #include <stddef.h>
 
-#include <initializer_list>
-
+#include "catalogue/descriptors.h"
 #include "tarn_if.h"
 
-namespace tarn {
-
-namespace {
+namespace tarn::making {
 
 // ---- Where each owner's slots begin and end ----------------------------------------------------
 
@@ -255,159 +256,27 @@ constexpr Catalogue make_catalogue() {
     return c;
 }
 
-} // namespace
+} // namespace tarn::making
 
-constexpr Catalogue catalogue = make_catalogue();
+namespace [[gnu::visibility("hidden")]] tarn {
 
-namespace {
+#ifdef TARN_BUILT_FOR_SPEED
+inline constexpr Catalogue catalogue = making::make_catalogue();
+#else
+// Nothing is worked out from it at compile time, and one strong definition is reached without an
+// entry in the loader's table, which an inline one would take on ARM.
+extern const Catalogue catalogue;
+#endif
 
-// ---- What a row can get wrong ------------------------------------------------------------------
-
-static_assert(slotCount == slotCapacity && memberCount == memberCapacity,
-              "the capacities in descriptors.h are the numbers of rows");
-
-// The rows' tags in their order; a tag given twice would overwrite a type without a word.
-constexpr int tagRows[] = {
-#define SCALAR(name_, tag_, ...)      tag_,
-#define BYTES(name_, tag_, ...)       tag_,
-#define RECORD(name_, tag_, ...)      tag_,
-#define LIST(name_, tag_, ...)        tag_,
-#define ITEM_SCALAR(name_, tag_, ...) tag_,
-#define ITEM_RECORD(name_, tag_, ...) tag_,
-#include "catalogue/primitive_ies.def"
-#define SEQUENCE(name_, tag_, ...)       tag_,
-#define COMPOSITE_LIST(name_, tag_, ...) tag_,
-#include "catalogue/composite_ies.def"
-};
-
-constexpr bool tags_are_unique() {
-    bool seen[lastTag + 1] = {};
-    for (int tag : tagRows) {
-        if (tag < 1 || tag > lastTag || seen[tag])
-            return false;
-        seen[tag] = true;
-    }
-    return true;
-}
-static_assert(tags_are_unique());
-
-constexpr unsigned count_types(Kind kind, bool hasIe) {
-    unsigned count = 0;
-    for (const Type &type : catalogue.types)
-        count += type.kind == kind && (type.hasIe != 0) == hasIe;
-    return count;
+inline constexpr const Type &type_of(TypeId id) {
+    return catalogue.types[id];
 }
 
-constexpr unsigned count_numbers(bool hasIe) {
-    return count_types(Kind::number8, hasIe) + count_types(Kind::number16, hasIe) +
-           count_types(Kind::code, hasIe) + count_types(Kind::number32, hasIe);
+// A tag from the wire or from an object as a type; a tag that the protocol lacks has kind none.
+inline constexpr TypeId type_of_tag(uint32_t tag) {
+    return tag <= lastTag ? TypeId(tag) : TypeId(0);
 }
-static_assert(count_numbers(true) == 80 && count_numbers(false) == 5);
-static_assert(count_types(Kind::bytes, true) == 16);
-static_assert(count_types(Kind::record, true) == 11 && count_types(Kind::record, false) == 4);
-static_assert(count_types(Kind::list, true) == 8);
-static_assert(count_types(Kind::sequence, true) == 13);
-static_assert(count_types(Kind::compositeList, true) == 7);
-
-constexpr bool range_holds(const Type &type) {
-    switch (type.kind) {
-    case Kind::number8:
-        return type.greatest <= UINT8_MAX;
-    case Kind::number16:
-        return type.greatest <= UINT16_MAX;
-    case Kind::code: // whatever stands above the 16 bits that travel
-        return type.least == 0 && type.greatest == UINT32_MAX;
-    case Kind::bytes:
-    case Kind::list:
-    case Kind::compositeList:
-        return type.greatest <= type.capacity;
-    default:
-        return true;
-    }
-}
-
-constexpr bool list_values_fit() {
-    for (const Type &type : catalogue.types)
-        if (type.kind == Kind::list && type.valueSize > listValueLimit)
-            return false;
-    return true;
-}
-static_assert(list_values_fit());
-
-constexpr bool ranges_hold() {
-    for (const Type &type : catalogue.types)
-        if (type.least > type.greatest || !range_holds(type))
-            return false;
-    return true;
-}
-static_assert(ranges_hold());
-
-// Tables are walked by position, so mandatory slots must lead; eight bits are all a mask has.
-constexpr bool slots_hold(const SlotTable &table) {
-    unsigned optional = 0;
-    for (unsigned i = 0; i < table.count; ++i) {
-        const Slot &slot = catalogue.slots[table.first + i];
-        optional += slot.presence != Presence::mandatory;
-        if ((slot.presence == Presence::mandatory && optional != 0) ||
-            !catalogue.types[slot.type].hasIe)
-            return false;
-    }
-    return optional <= 8;
-}
-
-constexpr bool all_slots_hold() {
-    for (const Type &type : catalogue.types)
-        if (type.kind == Kind::sequence && !slots_hold(type.slots))
-            return false;
-    for (const Message &message : catalogue.messages)
-        if (!slots_hold(message.slots))
-            return false;
-    return true;
-}
-static_assert(all_slots_hold());
-
-constexpr bool messages_hold() {
-    unsigned count = 0;
-    for (const Message &message : catalogue.messages)
-        count += message.slots.count != 0;
-    return count == 38 && catalogue.messages[34].slots.count == 0;
-}
-static_assert(messages_hold());
-
-constexpr bool tokens_are_distinct() {
-    uint32_t tokens[3 * messageCount] = {0xB4D9287C}; // every Get's
-    unsigned count = 1;
-    for (const Message &message : catalogue.messages) {
-        if (message.slots.count == 0)
-            continue;
-        for (uint32_t token : {message.appendToken, message.validityToken, message.packToken}) {
-            for (unsigned i = 0; i < count; ++i)
-                if (tokens[i] == token)
-                    return false;
-            tokens[count++] = token;
-        }
-    }
-    return true;
-}
-static_assert(tokens_are_distinct());
-
-// The engine finds the value, or the children, right behind the head.
-#define SCALAR(name_, ...) static_assert(offsetof(Tarn##name_##Ie, value) == sizeof(TarnIe));
-#define BYTES(name_, ...)  static_assert(offsetof(Tarn##name_##Ie, value) == sizeof(TarnIe));
-#define RECORD(name_, ...) static_assert(offsetof(Tarn##name_##Ie, value) == sizeof(TarnIe));
-#define LIST(name_, ...)   static_assert(offsetof(Tarn##name_##Ie, value) == sizeof(TarnIe));
-#include "catalogue/primitive_ies.def"
-#define SEQUENCE(name_, ...) static_assert(offsetof(Tarn##name_##Ie, children) == sizeof(TarnIe));
-#define COMPOSITE_LIST(name_, ...)                                                                 \
-    static_assert(offsetof(Tarn##name_##Ie, children) == sizeof(TarnIe));
-#include "catalogue/composite_ies.def"
-
-// Offsets are kept in 16 bits; HandoverRequest's record is the largest.
-static_assert(sizeof(TarnHandoverRequestRecord) < 65536);
-#define BYTES(name_, tag_, capacity_, ...)                                                         \
-    static_assert(sizeof(Tarn##name_::bytes) == capacity_ && offsetof(Tarn##name_, bytes) == 4);
-#include "catalogue/primitive_ies.def"
-
-} // namespace
 
 } // namespace tarn
+
+#endif
