@@ -107,6 +107,8 @@ class CallGraph:
         self.components = self._components()
 
     def _read(self, text):
+        # An instance of a template bears its file's name, but only in the file that defines it.
+        text = re.sub(r'"[^"\\]*:(_Z(?!\w*_GLOBAL__N_)[^"]*)"', r'"\1"', text)
         node = r'node: \{ title: "([^"]+)" label: "[^"]*\\n([^"\\]*):\d+:\d+\\n(\d+) bytes'
         for name, file, size in re.findall(node, text):
             self.frames[name] = max(int(size), self.frames.get(name, 0))

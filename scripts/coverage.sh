@@ -1,29 +1,44 @@
 #!/usr/bin/env bash
-# Measures, with g++ and gcov in build/coverage, what the tests reach of the library, and fails when
-# an exported function is never called or a line or branch of src/ never taken. What no test can
-# reach is marked where it stands, with the reason.
+# Measures, with g++ and gcov, what the tests reach of the library, and fails when an exported
+# function is never called or a line or branch of src/ never taken. What no test can reach is marked
+# where it stands, with the reason.
+#
+# The tests run with both forms of the engine: with the one built for speed in build/coverage, of
+# which every line must run, and with the compact one in build/coverage-compact, of which every branch
+# must be taken as well. In the former, a branch has a copy in each walk, where most are decided.
 #   scripts/coverage.sh             builds, runs the tests, measures
 #   scripts/coverage.sh --measure   measures what was run last
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 build=build/coverage
+compact=build/coverage-compact
+configure() {
+    cmake -G Ninja -S . -DCMAKE_C_COMPILER=gcc -DCMAKE_CXX_COMPILER=g++ -DCMAKE_BUILD_TYPE=Debug \
+        -DTARN_COVERAGE=ON "$@" >/dev/null
+}
 if [ "${1:-}" != --measure ]; then
-    cmake -S . -B $build -G Ninja -DCMAKE_C_COMPILER=gcc -DCMAKE_CXX_COMPILER=g++ \
-        -DCMAKE_BUILD_TYPE=Debug -DTARN_COVERAGE=ON >/dev/null
-    find $build -name '*.gcda' -delete # what former builds counted
+    configure -B $build
+    configure -B $compact -DTARN_COMPACT=ON -DTARN_TOOLS=OFF -DTARN_EXAMPLES=OFF -DTARN_TESTS=OFF
+    find $build $compact -name '*.gcda' -delete # what former builds counted
     cmake --build $build -- --quiet
+    cmake --build $compact --target tarn -- --quiet
     find $build -name '*.gcda' -delete # what programs counted that run during the build
-    ctest --test-dir $build -j "$(nproc)" --output-on-failure --progress
+    run_tests() { ctest --test-dir $build -j "$(nproc)" --output-on-failure --progress; }
+    run_tests
+    LD_LIBRARY_PATH=$PWD/$compact/src run_tests
 fi
 
-# The functions that cmake/exports.txt lists, each with the number of calls that gcov counted.
+# The functions that cmake/exports.txt lists and the lines of src/, each with the number of times
+# that gcov counted.
 failed=0
 python3 - $build/src cmake/exports.txt <<'PYTHON' || failed=1
 import json, pathlib, subprocess, sys
 
 objects, exports = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+sources = pathlib.Path("src").resolve()
 calls = dict.fromkeys(exports.read_text().split(), 0)
+lines = {}
 for data in sorted(objects.rglob("*.gcda")):
     gcov = subprocess.run(["gcov", "--json-format", "--stdout", data], capture_output=True, check=True)
     for line in gcov.stdout.splitlines():
@@ -31,21 +46,32 @@ for data in sorted(objects.rglob("*.gcda")):
             for function in file["functions"]:
                 if function["name"] in calls:
                     calls[function["name"]] += function["execution_count"]
+            path = pathlib.Path(file["file"]).resolve()
+            if path.is_relative_to(sources):
+                text = path.read_text().splitlines()
+                for line in file["lines"]:
+                    if "GCOVR_EXCL_LINE" in text[line["line_number"] - 1]:
+                        continue
+                    place = f"src/{path.relative_to(sources)}:{line['line_number']}"
+                    lines[place] = lines.get(place, 0) + abs(line["count"])
 missed = sorted(name for name, count in calls.items() if count == 0)
 print(f"exported functions called: {len(calls) - len(missed)} of {len(calls)}")
 print(*(f"    never called: {name}" for name in missed[:50]), sep="\n", end="\n" if missed else "")
-sys.exit(bool(missed))
+unreached = [place for place, count in lines.items() if count == 0]
+print(f"lines, built for speed: {len(lines) - len(unreached)} of {len(lines)}")
+print(*(f"    never run: {place}" for place in unreached), sep="\n", end="\n" if unreached else "")
+sys.exit(bool(missed or unreached))
 PYTHON
 
 # Every door is one line of a macro, so lines and branches speak of the engine.
 report() {
-    gcovr --root . --filter src/ --object-directory $build $build/src --exclude-throw-branches "$@"
+    gcovr --root . --filter src/ --object-directory $compact $compact/src --exclude-throw-branches "$@"
 }
-report --txt $build/lines.txt --html-details $build/report.html --print-summary \
+report --txt $compact/lines.txt --html-details $compact/report.html --print-summary \
     --fail-under-line 100 --fail-under-branch 100 || failed=1
 if [ $failed -ne 0 ]; then
-    report --branches --txt $build/branches.txt
-    cat $build/lines.txt $build/branches.txt
-    echo "details: $build/report.html" >&2
+    report --branches --txt $compact/branches.txt
+    cat $compact/lines.txt $compact/branches.txt
+    echo "details: $compact/report.html" >&2
 fi
 exit $failed

@@ -10,7 +10,8 @@ measure() {
     build=$2
     tools=$3
     shift 3
-    cmake --fresh -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=MinSizeRel -DTARN_TOOLS=OFF \
+    rm -rf "$build" # else objects of files that are gone are counted as well
+    cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=MinSizeRel -DTARN_TOOLS=OFF \
         -DTARN_EXAMPLES=OFF -DTARN_TESTS=OFF "$@" \
         -DCMAKE_CXX_FLAGS_MINSIZEREL="-Os -DNDEBUG -fcallgraph-info=su" >"$build.log"
     cmake --build "$build" --target tarn >>"$build.log"
