@@ -117,13 +117,6 @@ TARN_INLINE Reading read_elements(Id list, VelDllHead *children, Input in, uint3
 
 // ---- Slots of a sequence composite or a message ------------------------------------------------
 
-// Links a new IE object and returns it, with its value still to be set.
-TARN_INLINE TarnIe *link_new(VelDllHead *list, TypeId id) {
-    TarnIe *ie = create_head(id, TARN_CALLER(moduleInternal));
-    link_ie(list, ie, TARN_CALLER(moduleInternal));
-    return ie;
-}
-
 // Most slots hold a number that is mandatory. It is decoded before its object is made, so that a
 // failure leaves nothing to be released.
 template <class AnySlot>
@@ -132,8 +125,9 @@ TARN_INLINE Taken take_number(const AnySlot &slot, VelDllHead *list, Input in) {
     const uint32_t size = read_number_ie(slot.kind, slot.type, in, &number);
     if (size == 0 || !in_range(type_of(slot.type), number))
         return absent;
-    TarnIe *ie = link_new(list, slot.type);
+    TarnIe *ie = create_head(slot.type, TARN_CALLER(moduleInternal));
     store_number(slot.kind, value_of(ie), number);
+    link_ie(list, ie, TARN_CALLER(moduleInternal));
     return size;
 }
 
@@ -145,10 +139,11 @@ TARN_INLINE Taken take_bytes(const AnySlot &slot, VelDllHead *list, Input in) {
     const uint32_t length = load32(in.at + tagSize);
     if (length > in.left - headerSize || !in_range(type_of(slot.type), length))
         return absent;
-    TarnIe *ie = link_new(list, slot.type);
+    TarnIe *ie = create_head(slot.type, TARN_CALLER(moduleInternal));
     auto *value = static_cast<uint32_t *>(value_of(ie));
     *value = length;
     memcpy(value + 1, in.at + headerSize, length);
+    link_ie(list, ie, TARN_CALLER(moduleInternal));
     return headerSize + length;
 }
 

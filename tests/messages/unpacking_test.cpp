@@ -155,6 +155,18 @@ TEST_F(MessageUnpacking, OptionalIeAbsentInvalidOrMisplacedIsLeftOut) {
     }
 }
 
+// A host may look at an IE as soon as it is linked. No value of these begins with the byte that
+// fills new blocks.
+TEST_F(MessageUnpacking, ValuesAreThereWhenTheirIeIsLinked) {
+    const TarnAccessControlRequestRecord record = {
+        0, 0, 0x01020304, 0x05060708, {2, {0x11, 0x22}}, {16, {0x33}}};
+    Bytes bytes(100);
+    bytes.resize(TarnBuildAccessControlRequestMsg(bytes.data(), 100, &record));
+    EXPECT_NE(unpack(samples::message("AccessControlRequest"), bytes), std::nullopt);
+    EXPECT_GT(test_host::allocations(), 10U);
+    EXPECT_EQ(test_host::unset_links(), 0U);
+}
+
 TEST_F(MessageUnpacking, TrailingBytesAreIgnored) {
     Random random(6);
     for (const Message *message : protocol::messages()) {

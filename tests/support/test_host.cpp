@@ -5,6 +5,7 @@
 #include <cstring>
 #include <unordered_map>
 
+#include "tarn_if.h"
 #include "vel_platform.h"
 
 namespace {
@@ -19,6 +20,7 @@ struct State {
     std::vector<test_host::FatalReport> fatalReports;
     std::vector<test_host::DebugToken> debugTokens;
     std::size_t allocations = 0;
+    std::size_t unsetLinks = 0;
     std::size_t listCalls = 0;
     test_host::OnFatal onFatal = test_host::OnFatal::returns;
 };
@@ -38,6 +40,13 @@ bool guard_is_whole(const unsigned char *guard) {
         if (guard[i] != guardPattern)
             return false;
     return true;
+}
+
+// A node is the first field of its block.
+bool value_is_unset(void *node) {
+    const auto found = state().blocks.find(node);
+    return found != state().blocks.end() && found->second > sizeof(TarnIe) &&
+           static_cast<unsigned char *>(node)[sizeof(TarnIe)] == freshPattern;
 }
 
 } // namespace
@@ -82,6 +91,7 @@ void xVelDllInitNode(VelDllNode *node, const char *, uint32_t) {
 void xVelDllAddToTail(VelDllHead *head, VelDllNode *node, const char *module, uint32_t line) {
     if (node->next != nullptr || node->previous != nullptr || head->first == node)
         fail("a node is linked that is in a list already", module, line);
+    state().unsetLinks += value_is_unset(node) ? 1 : 0;
     node->previous = head->last;
     (head->last != nullptr ? head->last->next : head->first) = node;
     head->last = node;
@@ -130,6 +140,7 @@ void reset() {
     state().fatalReports.clear();
     state().debugTokens.clear();
     state().allocations = 0;
+    state().unsetLinks = 0;
     state().listCalls = 0;
     state().onFatal = OnFatal::returns;
 }
@@ -152,6 +163,10 @@ std::size_t live_blocks() {
 
 std::size_t allocations() {
     return state().allocations;
+}
+
+std::size_t unset_links() {
+    return state().unsetLinks;
 }
 
 std::size_t list_calls() {

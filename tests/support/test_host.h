@@ -39,6 +39,8 @@ const std::vector<DebugToken> &debug_tokens();
 // Blocks allocated and not released; blocks ever allocated since the reset.
 std::size_t live_blocks();
 std::size_t allocations();
+// IE objects linked with nothing written yet where their value begins, as far as the pattern tells.
+std::size_t unset_links();
 // List calls (get head, get next, find) since the reset, as a measure of work.
 std::size_t list_calls();
 
