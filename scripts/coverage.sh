@@ -15,11 +15,11 @@ build=build/coverage
 compact=build/coverage-compact
 configure() {
     cmake -G Ninja -S . -DCMAKE_C_COMPILER=gcc -DCMAKE_CXX_COMPILER=g++ -DCMAKE_BUILD_TYPE=Debug \
-        -DTARN_COVERAGE=ON "$@" >/dev/null
+        -DTARN_COVERAGE=ON -DTARN_TOOLS=OFF "$@" >/dev/null
 }
 if [ "${1:-}" != --measure ]; then
     configure -B $build
-    configure -B $compact -DTARN_COMPACT=ON -DTARN_TOOLS=OFF -DTARN_EXAMPLES=OFF -DTARN_TESTS=OFF
+    configure -B $compact -DTARN_COMPACT=ON -DTARN_EXAMPLES=OFF -DTARN_TESTS=OFF
     find $build $compact -name '*.gcda' -delete # what former builds counted
     cmake --build $build -- --quiet
     cmake --build $compact --target tarn -- --quiet

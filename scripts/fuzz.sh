@@ -15,7 +15,8 @@ fi
 [ $# -gt 0 ] || set -- decode record ie calls
 
 cmake -S . -B $build -G Ninja -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \
-    -DCMAKE_BUILD_TYPE=Debug -DCMAKE_C_FLAGS_DEBUG="-O1 -g" -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g" \
+    -DCMAKE_BUILD_TYPE=Debug -DCMAKE_C_FLAGS_DEBUG="-O1 -gline-tables-only" \
+    -DCMAKE_CXX_FLAGS_DEBUG="-O1 -gline-tables-only" \
     -DTARN_SANITIZE=address,undefined -DTARN_FUZZ=ON -DTARN_TESTS=OFF -DTARN_EXAMPLES=OFF >/dev/null
 cmake --build $build --target fuzz/all -- --quiet
 
