@@ -53,7 +53,7 @@ for data in sorted(objects.rglob("*.gcda")):
                     if "GCOVR_EXCL_LINE" in text[line["line_number"] - 1]:
                         continue
                     place = f"src/{path.relative_to(sources)}:{line['line_number']}"
-                    lines[place] = lines.get(place, 0) + abs(line["count"])
+                    lines[place] = lines.get(place, 0) + line["count"]
 missed = sorted(name for name, count in calls.items() if count == 0)
 print(f"exported functions called: {len(calls) - len(missed)} of {len(calls)}")
 print(*(f"    never called: {name}" for name in missed[:50]), sep="\n", end="\n" if missed else "")

@@ -81,8 +81,7 @@ constexpr void add_slots(Catalogue &c) {
 
 constexpr void add_members(Catalogue &c) {
 #define MEMBER(name_, member_)                                                                     \
-    c.members[member##name_##member_] =                                                            \
-        Member{type##member_, Kind::none, offsetof(Tarn##name_, member_)};
+    c.members[member##name_##member_] = Member{type##member_, offsetof(Tarn##name_, member_)};
 #include "catalogue/primitive_ies.def"
 }
 
@@ -203,8 +202,6 @@ constexpr void add_fixed_sizes(Catalogue &c) {
 constexpr void add_kinds(Catalogue &c) {
     for (Slot &slot : c.slots)
         slot.kind = c.types[slot.type].kind;
-    for (Member &member : c.members)
-        member.kind = c.types[member.type].kind;
 }
 
 constexpr bool accepts_all(const Catalogue &c, const Type &type) {
@@ -275,6 +272,11 @@ inline constexpr const Type &type_of(TypeId id) {
 // A tag from the wire or from an object as a type; a tag that the protocol lacks has kind none.
 inline constexpr TypeId type_of_tag(uint32_t tag) {
     return tag <= lastTag ? TypeId(tag) : TypeId(0);
+}
+
+// Whether an IE of this tag has children. A tag that the protocol lacks has none.
+inline constexpr bool is_composite_tag(uint32_t tag) {
+    return tag <= lastTag && is_composite(type_of(TypeId(tag)).kind);
 }
 
 } // namespace tarn

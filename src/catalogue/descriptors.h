@@ -63,8 +63,16 @@ inline constexpr bool is_number(Kind kind) {
     return kind <= Kind::number32;
 }
 
+inline constexpr bool is_primitive(Kind kind) {
+    return kind < Kind::sequence;
+}
+
 inline constexpr bool is_composite(Kind kind) {
-    return kind >= Kind::sequence;
+    return !is_primitive(kind);
+}
+
+inline constexpr bool is_sequence(Kind kind) {
+    return kind == Kind::sequence;
 }
 
 enum class Presence : uint8_t {
@@ -110,7 +118,6 @@ struct Slot {
 // One member of a record value.
 struct Member {
     TypeId type;
-    Kind kind;       // of the type
     uint16_t offset; // in the value
 };
 

@@ -15,6 +15,17 @@ TARN_INLINE TarnIe *take_next(VelDllHead *list, uint32_t tag) {
     return nullptr;
 }
 
+template <class Owner, class Copy>
+TARN_INLINE uint32_t extract_by(Owner *owner, const void *value, uint32_t tag, Copy copy) {
+    if (any_null(TARN_CALLER(moduleApi), owner, value))
+        return 0;
+    const TarnIe *ie = take_next(list_of(owner), tag);
+    if (ie == nullptr)
+        return 0;
+    copy(ie);
+    return 1;
+}
+
 } // namespace
 
 template <class Id>
@@ -47,24 +58,16 @@ uint32_t link(Owner *owner, TarnIe *child) {
 
 template <class Owner, class Number>
 uint32_t extract_number(Owner *owner, Number *value, uint32_t tag) {
-    if (any_null(TARN_CALLER(moduleApi), owner, value))
-        return 0;
-    const TarnIe *ie = take_next(list_of(owner), tag);
-    if (ie == nullptr)
-        return 0;
-    *value = *static_cast<const Number *>(value_of(ie));
-    return 1;
+    return extract_by(owner, value, tag, [value](const TarnIe *ie) {
+        *value = *static_cast<const Number *>(value_of(ie));
+    });
 }
 
 template <class Owner, class Id>
 uint32_t extract_value(Owner *owner, void *value, Id id) {
-    if (any_null(TARN_CALLER(moduleApi), owner, value))
-        return 0;
-    const TarnIe *ie = take_next(list_of(owner), id);
-    if (ie == nullptr)
-        return 0;
-    copy_value(type_of(id), value, value_of(ie));
-    return 1;
+    return extract_by(owner, value, id, [value, id](const TarnIe *ie) {
+        copy_value(type_of(id), value, value_of(ie));
+    });
 }
 
 template <class Owner>

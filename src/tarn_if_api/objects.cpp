@@ -30,14 +30,14 @@ void reset_all(VelDllHead *list) {
 
 void reset_ie(TarnIe *ie) {
     ie->extractHistory = 0;
-    if (has_children(ie))
+    if (is_composite_tag(ie->tag))
         reset_all(children_of(ie));
 }
 
 } // namespace
 
 void delete_ie(TarnIe *ie) {
-    if (has_children(ie))
+    if (is_composite_tag(ie->tag))
         delete_all(children_of(ie));
     release(ie, TARN_CALLER(moduleApi));
 }

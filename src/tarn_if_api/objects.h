@@ -55,11 +55,6 @@ TARN_INLINE uint32_t link_message_id(TarnMsg *msg, TarnMessageId id) {
     return 1;
 }
 
-// Whether an IE object of this tag has children. A tag that the protocol lacks has none.
-TARN_INLINE bool has_children(const TarnIe *ie) {
-    return ie->tag <= lastTag && is_composite(type_of(TypeId(ie->tag)).kind);
-}
-
 // Releases the IE object and all below it. It must not be linked any more.
 void delete_ie(TarnIe *ie);
 

@@ -78,7 +78,7 @@ template <class Id>
 Built Builder::composite(Id id, const void *record, VelDllHead *list) {
     TarnIe *ie = create_composite(id, TARN_CALLER(moduleApi));
     link_ie(list, ie, TARN_CALLER(moduleApi));
-    return by_composite(
+    return by_kind<is_sequence>(
         id,
         [&](auto sequence) TARN_INLINE_LAMBDA {
             return slots<0>(sequence, record, sequenceMaskOffset, children_of(ie));
@@ -89,7 +89,7 @@ Built Builder::composite(Id id, const void *record, VelDllHead *list) {
 
 template <class Id>
 TARN_INLINE Built Builder::child(Id id, const void *member, VelDllHead *list) {
-    return by_nesting(
+    return by_kind<is_primitive>(
         id,
         [&](auto primitive) TARN_INLINE_LAMBDA {
             return append_value(list, primitive, member) != 0 ? Built::valid : Built::failed;
@@ -176,13 +176,13 @@ template <class Id>
 
 template <class Id>
 TARN_INLINE void get_member(Id id, const TarnIe *ie, void *member) {
-    by_nesting(
+    by_kind<is_primitive>(
         id,
         [&](auto primitive)
             TARN_INLINE_LAMBDA { copy_value(type_of(primitive), member, value_of(ie)); },
         [&](auto nested) TARN_INLINE_LAMBDA {
             with_composite(nested, [&](auto known) TARN_INLINE_LAMBDA {
-                by_composite(
+                by_kind<is_sequence>(
                     known,
                     [&](auto sequence)
                         TARN_INLINE_LAMBDA { get_sequence(sequence, children_of(ie), member); },

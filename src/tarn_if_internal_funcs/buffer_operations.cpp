@@ -44,7 +44,7 @@ int32_t TarnSizeOfMsg(const TarnMsg *msg) {
 }
 
 uint32_t TarnIsComplexType(uint32_t tag) {
-    return is_composite(type_of(type_of_tag(tag)).kind);
+    return is_composite_tag(tag);
 }
 
 uint32_t TarnGetMessageId(const uint8_t *buffer, uint32_t length) {

@@ -18,6 +18,14 @@ using Constant = std::integral_constant<decltype(value), value>;
 template <class Id>
 inline constexpr bool isConstant = !std::is_enum_v<Id>;
 
+// A case of a switch by type or message: calls `use` with it as a constant. Handlers of rows.
+#define TARN_TYPE_CASE(name_, ...)                                                                 \
+    case type##name_:                                                                              \
+        return use(Constant<type##name_>());
+#define TARN_MESSAGE_CASE(name_, ...)                                                              \
+    case message##name_:                                                                           \
+        return use(Constant<message##name_>());
+
 // A type or message as the engine takes it: built for speed a constant, else a plain one.
 template <auto value>
 inline constexpr std::conditional_t<builtForSpeed, Constant<value>, decltype(value)> asBuilt{

@@ -57,7 +57,7 @@ private:
     TARN_INLINE uint32_t write_ie(const AnySlot &slot, const TarnIe *ie) {
         if (is_number(slot.kind))
             return write_number_ie(slot.kind, slot.type, load_number(slot.kind, value_of(ie)), out);
-        return by_nesting(
+        return by_kind<is_primitive>(
             slot.type,
             [&](auto primitive)
                 TARN_INLINE_LAMBDA { return write_larger_primitive(primitive, ie, out); },
@@ -92,7 +92,7 @@ TARN_INLINE bool write_elements(Id list_id, const VelDllHead *list, Output *out)
 
 template <class Id>
 TARN_INLINE bool write_children(Id id, const VelDllHead *children, Output *out) {
-    return by_composite(
+    return by_kind<is_sequence>(
         id, [&](auto sequence) TARN_INLINE_LAMBDA { return write_slots(sequence, children, out); },
         [&](auto list) TARN_INLINE_LAMBDA { return write_elements(list, children, out); });
 }

@@ -20,12 +20,8 @@ template <class Use>
 TARN_INLINE auto with_composite(TypeId id, Use use) {
     if constexpr (builtForSpeed) {
         switch (unsigned(id)) {
-#define SEQUENCE(name_, ...)                                                                       \
-    case type##name_:                                                                              \
-        return use(Constant<type##name_>());
-#define COMPOSITE_LIST(name_, ...)                                                                 \
-    case type##name_:                                                                              \
-        return use(Constant<type##name_>());
+#define SEQUENCE       TARN_TYPE_CASE
+#define COMPOSITE_LIST TARN_TYPE_CASE
 #include "catalogue/composite_ies.def"
         }
         __builtin_unreachable(); // GCOVR_EXCL_LINE, a slot's or list's type is one of these
@@ -44,9 +40,7 @@ template <class Use>
 TARN_INLINE auto with_message(MessageNumber id, Use use) {
     if constexpr (builtForSpeed) {
         switch (id) {
-#define MESSAGE(name_, ...)                                                                        \
-    case message##name_:                                                                           \
-        return use(Constant<message##name_>());
+#define MESSAGE TARN_MESSAGE_CASE
 #include "catalogue/messages.def"
         default:
             return decltype(use(id))();
@@ -64,28 +58,15 @@ inline constexpr const SlotTable &slots_of(TypeId sequence) {
 }
 
 // Calls the one that fits the type's kind, of which only that one is compiled for a constant.
-template <class Id, class UsePrimitive, class UseComposite>
-TARN_INLINE auto by_nesting(Id id, UsePrimitive primitive, UseComposite composite) {
+template <bool (*holds)(Kind), class Id, class UseThat, class UseOther>
+TARN_INLINE auto by_kind(Id id, UseThat that, UseOther other) {
     if constexpr (isConstant<Id>) {
-        if constexpr (is_composite(type_of(Id::value).kind))
-            return composite(id);
+        if constexpr (holds(type_of(Id::value).kind))
+            return that(id);
         else
-            return primitive(id);
+            return other(id);
     } else {
-        return is_composite(type_of(id).kind) ? composite(id) : primitive(id);
-    }
-}
-
-// Likewise for the two kinds of composite.
-template <class Id, class UseSequence, class UseList>
-TARN_INLINE auto by_composite(Id id, UseSequence sequence, UseList list) {
-    if constexpr (isConstant<Id>) {
-        if constexpr (type_of(Id::value).kind == Kind::sequence)
-            return sequence(id);
-        else
-            return list(id);
-    } else {
-        return type_of(id).kind == Kind::sequence ? sequence(id) : list(id);
+        return holds(type_of(id).kind) ? that(id) : other(id);
     }
 }
 

@@ -83,7 +83,7 @@ template <class Id>
 // Makes a child from bytes that carry its tag.
 template <class Id>
 TARN_INLINE Taken take_child(Id id, VelDllHead *list, Input in, bool calledFor) {
-    return by_nesting(
+    return by_kind<is_primitive>(
         id,
         [&](auto primitive)
             TARN_INLINE_LAMBDA { return take_primitive(as_coded(primitive), list, in, calledFor); },
@@ -109,10 +109,10 @@ TARN_INLINE Reading read_elements(Id list, VelDllHead *children, Input in, uint3
         budget -= taken;
         ++count;
     }
+    Verdict verdict = in_range(type_of(list), count) ? Verdict::valid : Verdict::invalid;
     if (budget != 0)
-        return {available, Verdict::failed};
-    const bool valid = count >= type_of(list).least && count <= type_of(list).greatest;
-    return {available - in.left, valid ? Verdict::valid : Verdict::invalid};
+        verdict = Verdict::failed;
+    return {available - in.left, verdict};
 }
 
 // ---- Slots of a sequence composite or a message ------------------------------------------------
@@ -219,7 +219,7 @@ TARN_INLINE Reading read_slots(Owner owner, VelDllHead *list, Input in) {
 // of the buffer. A list's length is the budget of its elements.
 template <class Id>
 TARN_INLINE Reading read_children(Id id, VelDllHead *children, Input in, uint32_t length) {
-    return by_composite(
+    return by_kind<is_sequence>(
         id, [&](auto sequence) TARN_INLINE_LAMBDA { return read_slots(sequence, children, in); },
         [&](auto list) TARN_INLINE_LAMBDA { return read_elements(list, children, in, length); });
 }

@@ -17,7 +17,7 @@ bool elements_are_valid(const Type &list, const VelDllHead *children) {
             return false;
         ++count;
     }
-    return count >= list.least && count <= list.greatest;
+    return in_range(list, count);
 }
 
 // Returns the slot behind the mandatory ones that takes this tag, or null. A child type named twice

@@ -39,15 +39,11 @@ template <class Use>
 TARN_INLINE auto with_type(TypeId id, Use use) {
     if constexpr (builtForSpeed) {
         switch (id) {
-#define CONSTANT_CASE(name_, ...)                                                                  \
-    case type##name_:                                                                              \
-        return use(Constant<type##name_>());
-#define RECORD      CONSTANT_CASE
-#define ITEM_RECORD CONSTANT_CASE
-#define FREE_RECORD CONSTANT_CASE
-#define LIST        CONSTANT_CASE
+#define RECORD      TARN_TYPE_CASE
+#define ITEM_RECORD TARN_TYPE_CASE
+#define FREE_RECORD TARN_TYPE_CASE
+#define LIST        TARN_TYPE_CASE
 #include "catalogue/primitive_ies.def"
-#undef CONSTANT_CASE
         default:
             break;
         }
