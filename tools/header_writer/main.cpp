@@ -1,8 +1,8 @@
 // header_writer [--check] [root]
 //
-// Writes the public header, the list of exported functions and the reference tables beneath `root`
-// (the current directory, when left out) from the rows of src/catalogue. With --check it writes
-// nothing: it compares, names each file that differs, and fails if there is one.
+// Writes the public header, the list of exported functions, the reference tables and Wireshark's
+// plugin beneath `root` (the current directory, when left out) from the rows of src/catalogue. With
+// --check it writes nothing: it compares, names each file that differs, and fails if there is one.
 
 #include "pages.h"
 
@@ -32,7 +32,12 @@ std::string exportList(std::vector<std::string> names) {
     return text;
 }
 
-std::vector<File> allFiles() {
+std::string contentOf(const std::filesystem::path &path) {
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+std::vector<File> allFiles(const std::filesystem::path &root) {
     const header_writer::Catalogue catalogue = header_writer::readCatalogue();
     const std::vector<std::pair<std::string, Page>> headers = {
         {"include/tarn_if.h", header_writer::coreHeader()},
@@ -49,12 +54,11 @@ std::vector<File> allFiles() {
     }
     files.push_back({"cmake/exports.txt", exportList(functions)});
     files.push_back({"docs/reference.md", header_writer::referenceTables(catalogue)});
+    // The plugin is one file, since Wireshark loads each of its plugins by itself.
+    files.push_back({"wireshark/tarn.lua", header_writer::luaRows(catalogue) +
+                                               contentOf(root / "wireshark/engine.lua") +
+                                               contentOf(root / "wireshark/plugin.lua")});
     return files;
-}
-
-std::string contentOf(const std::filesystem::path &path) {
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 
 int check(const std::filesystem::path &root, const std::vector<File> &files) {
@@ -91,7 +95,7 @@ int run(std::vector<std::string> arguments) {
         return 2;
     }
     const std::filesystem::path root = arguments.empty() ? "." : arguments.front();
-    return checking ? check(root, allFiles()) : write(root, allFiles());
+    return checking ? check(root, allFiles(root)) : write(root, allFiles(root));
 }
 
 } // namespace

@@ -84,11 +84,13 @@ std::vector<Message> readMessages() {
 }
 
 std::vector<Condition> readConditions() {
+    constexpr bool inside = true;
+    constexpr bool outside = false;
     std::vector<Condition> rows;
 #define CONDITION_FOR_MSG(name_, predicate_, ie_, values_, counts_, meaning_)                      \
-    rows.push_back({#name_, #predicate_, #ie_, meaning_, false});
+    rows.push_back({#name_, #predicate_, #ie_, values_, counts_, meaning_, false});
 #define CONDITION_FOR_IE(name_, predicate_, ie_, values_, counts_, meaning_)                       \
-    rows.push_back({#name_, #predicate_, #ie_, meaning_, true});
+    rows.push_back({#name_, #predicate_, #ie_, values_, counts_, meaning_, true});
 #include "catalogue/conditions.def"
     return rows;
 }

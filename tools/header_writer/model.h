@@ -72,6 +72,8 @@ struct Condition {
     std::string name;
     std::string predicate;
     std::string ie;
+    uint32_t values; // a set of numbers, one bit each
+    bool inside;     // true for the numbers of the set, else for all others
     std::string meaning;
     bool amongChildren; // looked up among a composite's children, else in a message
 };

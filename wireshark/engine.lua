@@ -1,0 +1,600 @@
+-- ---- The reading part --------------------------------------------------------------------------
+--
+-- Plain Lua, for 5.2 and later: it knows rows and no names, and nothing of Wireshark. It reads the
+-- bytes of one message as the library does, IE by IE, and tells what they hold, where and why they
+-- stop, and what was let pass.
+
+local byte = string.byte
+
+local tagSize, headerSize = 2, 6
+
+-- ---- Rows, linked ------------------------------------------------------------------------------
+
+local typesByName, typesByTag, messagesById = {}, {}, {}
+
+local function link_slots(owner)
+  for _, slot in ipairs(owner.slots) do
+    slot.type = typesByName[slot.type]
+    slot.condition = slot.condition and rows.conditions[slot.condition]
+    slot.isMandatory = slot.presence == "mandatory"
+  end
+end
+
+local function link_type(type)
+  type.label = type.name .. " [" .. type.tag .. "]"
+  type.isComposite = type.shape == "sequence" or type.shape == "compositeList"
+  type.item = type.item and typesByName[type.item]
+  for i, member in ipairs(type.members or {}) do
+    type.members[i] = typesByName[member]
+  end
+  if type.slots then
+    link_slots(type)
+  end
+  if type.shape == "scalar" then -- of a code word only its width travels
+    type.greatest = math.min(type.greatest, 256 ^ type.width - 1)
+  end
+end
+
+for _, type in ipairs(rows.types) do
+  typesByName[type.name], typesByTag[type.tag] = type, type
+end
+for _, condition in pairs(rows.conditions) do
+  condition.type = typesByName[condition.type]
+end
+for _, type in ipairs(rows.types) do
+  link_type(type)
+end
+local messageIdType = typesByName.MessageId
+for _, message in ipairs(rows.messages) do
+  link_slots(message)
+  messagesById[message.id] = message
+end
+
+-- ---- Words -------------------------------------------------------------------------------------
+
+local reasons = {
+  missingAtEnd = "missing: the bytes end before {ie}",
+  missingInRecord = "missing: the length of {ie} is used up after {taken}",
+  missingCalledFor = "missing: it is required where {condition}",
+  otherThanCalledFor = "missing: it is required where {condition}; found {found}",
+  uncalled = "not allowed here: it stands only where {condition}",
+  otherTag = "expected {ie}, found {found}",
+  truncatedHeader = "truncated header: tag and length take 6 bytes, but only {left}",
+  wrongWidth = "its length field says {declared}, where {name} takes exactly {width}",
+  tooFewLeft = "its length field says {declared}, but only {left}",
+  beyondCapacity = "its length field says {declared}, more than the {capacity} bytes that {name} can hold",
+  oneItemTooMany = "one more than the {count} items that {name} can hold",
+  below = "{number} is below {least}",
+  above = "{number} is above {greatest}",
+  wrongCount = "{count}, where {range} are allowed",
+  endsInList = "its length field says {declared}, but the bytes end after {taken}",
+  passesEnd = "passes the end of {list}, whose length field says {declared}",
+  unknownMessage = "no message has the id {id}",
+  otherLength = "its length field says {declared}, but the {parts} read take {taken}",
+  ignored = "{count} ignored",
+  ignoredFrom = "{count} ignored, from {found} on",
+  ignoredForeign = "{count} ignored, from {found} on, which is no IE of {message}",
+  ignoredOrder = "{count} ignored, from {found} on, which stands twice or out of order",
+}
+
+local function number_text(number)
+  return string.format("%d", number)
+end
+
+local function counted(count, thing)
+  return number_text(count) .. " " .. thing .. (count == 1 and "" or "s")
+end
+
+local function label_of_tag(tag)
+  local type = typesByTag[tag]
+  return type and type.label or "unknown tag " .. tag
+end
+
+local function remaining(text, left)
+  return text .. (left == 1 and " remains" or " remain")
+end
+
+local function range_text(type)
+  if type.least == type.greatest then
+    return "exactly " .. number_text(type.least)
+  end
+  return number_text(type.least) .. " to " .. number_text(type.greatest)
+end
+
+local function path_of(node)
+  if not node.parent then
+    return "" -- the message itself
+  end
+  local path = path_of(node.parent)
+  if node.index then
+    return path .. "[" .. node.index .. "]"
+  end
+  return path == "" and node.name or path .. "." .. node.name
+end
+
+-- Something found: at a byte, in an IE, for a reason, in words.
+local function finding(node, at, reason, values)
+  local what = reasons[reason]:gsub("{(%w+)}", values)
+  return { at = at, path = path_of(node), reason = reason, what = what }
+end
+
+local function words(found)
+  local width = found.at <= 0xFF and 2 or found.at <= 0xFFFF and 4 or 8
+  local place = string.format("byte %d (0x%0" .. width .. "x)", found.at, found.at)
+  if found.path ~= "" then
+    place = place .. ", " .. found.path
+  end
+  return place .. ": " .. found.what
+end
+
+-- ---- Values ------------------------------------------------------------------------------------
+--
+-- A node is an IE or nested TLV: its row, its name and place in its parent, the byte at which its
+-- header begins, its size, and its parts as an array. A walk is the bytes and a position in them.
+
+local function new_node(parent, type, name, index)
+  return { parent = parent, type = type, name = name, index = index }
+end
+
+-- The tag at the position, 0 if there is not enough for one.
+local function tag_at(walk)
+  local high, low = byte(walk.bytes, walk.at + 1, walk.at + tagSize)
+  return low and high * 256 + low or 0
+end
+
+local function number_at(bytes, at, width)
+  local a, b, c, d = byte(bytes, at + 1, at + width)
+  if width == 1 then
+    return a
+  end
+  return width == 2 and a * 256 + b or ((a * 256 + b) * 256 + c) * 256 + d
+end
+
+-- Reads the header of an IE or nested TLV and moves behind it.
+local function read_header(walk, node)
+  local at, left, type = walk.at, walk.length - walk.at, node.type
+  node.at = at
+  if left == 0 then
+    return finding(node, at, "missingAtEnd", { ie = type.label })
+  end
+  local tag = tag_at(walk)
+  if left >= tagSize and tag ~= type.tag then
+    return finding(node, at, "otherTag", { ie = type.label, found = label_of_tag(tag) })
+  end
+  if left < headerSize then
+    return finding(node, at, "truncatedHeader", { left = remaining(number_text(left), left) })
+  end
+  node.declared = number_at(walk.bytes, at + tagSize, headerSize - tagSize)
+  walk.at = at + headerSize
+end
+
+local function too_few_left(walk, node)
+  local left = walk.length - node.at - headerSize
+  return finding(node, node.at + tagSize, "tooFewLeft", {
+    declared = number_text(node.declared),
+    left = remaining(counted(left, "byte"), left),
+  })
+end
+
+-- Notes a length field that disagrees with what was read.
+local function note_length(walk, node)
+  local taken = walk.at - node.at - headerSize
+  if node.declared ~= taken then
+    local isList = node.type.item ~= nil
+    walk.notes[#walk.notes + 1] = finding(node, node.at + tagSize, "otherLength", {
+      declared = number_text(node.declared),
+      parts = isList and "items" or "parts",
+      taken = counted(taken, "byte"),
+    })
+  end
+end
+
+local readers = {}
+
+-- Reads a whole primitive IE or nested TLV, moving behind it on success.
+local function read_value(walk, node)
+  local fault = read_header(walk, node) or readers[node.type.shape](walk, node)
+  node.size = walk.at - node.at
+  return fault
+end
+
+function readers.scalar(walk, node)
+  local type, at = node.type, walk.at
+  if node.declared ~= type.width then
+    return finding(node, node.at + tagSize, "wrongWidth", {
+      declared = number_text(node.declared),
+      name = type.name,
+      width = counted(type.width, "byte"),
+    })
+  end
+  if node.declared > walk.length - at then
+    return too_few_left(walk, node)
+  end
+  node.number = number_at(walk.bytes, at, type.width)
+  walk.at = at + type.width
+end
+
+function readers.bytes(walk, node)
+  local type = node.type
+  if node.declared > walk.length - walk.at then
+    return too_few_left(walk, node)
+  end
+  if node.declared > type.capacity then
+    return finding(node, node.at + tagSize, "beyondCapacity", {
+      declared = number_text(node.declared),
+      capacity = type.capacity,
+      name = type.name,
+    })
+  end
+  node.count = node.declared
+  walk.at = walk.at + node.declared
+end
+
+-- Members are bounded by the bytes that remain and not by the record, but each must begin before
+-- the record's length is used up.
+function readers.record(walk, node)
+  local start = walk.at
+  if node.declared > walk.length - start then
+    return too_few_left(walk, node)
+  end
+  for i, type in ipairs(node.type.members) do
+    local member = new_node(node, type, type.name)
+    if walk.at - start >= node.declared then
+      return finding(member, walk.at, "missingInRecord", {
+        ie = node.type.label,
+        taken = counted(walk.at - start, "byte"),
+      })
+    end
+    local fault = read_value(walk, member)
+    if fault then
+      return fault
+    end
+    node[i] = member
+  end
+  note_length(walk, node)
+end
+
+function readers.list(walk, node)
+  local start, type = walk.at, node.type
+  if node.declared > walk.length - start then
+    return too_few_left(walk, node)
+  end
+  node.count = 0
+  while walk.at - start < node.declared do
+    local item = new_node(node, type.item, type.item.name, node.count)
+    if node.count == type.capacity then
+      return finding(item, walk.at, "oneItemTooMany", { count = node.count, name = type.name })
+    end
+    local fault = read_value(walk, item)
+    if fault then
+      return fault
+    end
+    node.count = node.count + 1
+    node[node.count] = item
+  end
+  note_length(walk, node)
+end
+
+-- ---- Ranges ------------------------------------------------------------------------------------
+
+local function count_fault(node, at, unit)
+  local type = node.type
+  if node.count < type.least or node.count > type.greatest then
+    return finding(node, at, "wrongCount", {
+      count = counted(node.count, unit),
+      range = range_text(type),
+    })
+  end
+end
+
+local function number_fault(node)
+  local type, number, at = node.type, node.number, node.at + headerSize
+  if number < type.least then
+    return finding(node, at, "below", { number = number, least = number_text(type.least) })
+  end
+  if number > type.greatest then
+    return finding(node, at, "above", { number = number, greatest = number_text(type.greatest) })
+  end
+end
+
+-- What makes a value invalid that was read, if anything does.
+local function find_invalid(node)
+  local shape, fault = node.type.shape, nil
+  if shape == "scalar" then
+    return number_fault(node)
+  elseif shape == "bytes" then
+    return count_fault(node, node.at + headerSize, "byte")
+  elseif shape == "list" then
+    fault = count_fault(node, node.at + headerSize, "item")
+  end
+  for i = 1, fault and 0 or #node do
+    fault = fault or find_invalid(node[i])
+  end
+  return fault
+end
+
+-- ---- Slots of a sequence composite or a message ------------------------------------------------
+
+local function is_called_for(owner, slot)
+  local condition = slot.condition
+  if not condition then
+    return true
+  end
+  for _, child in ipairs(owner) do
+    if child.type == condition.type then
+      return (condition.values[child.number] or false) == condition.inside
+    end
+  end
+  return false
+end
+
+-- The first conditional slot that is not filled although it is called for. The walk fills none
+-- that is not.
+local function unmet_condition(owner, slots)
+  for _, slot in ipairs(slots) do
+    if slot.condition and not owner.filled[slot] and is_called_for(owner, slot) then
+      return slot
+    end
+  end
+end
+
+local function needed(owner, slot, at)
+  local values = { condition = slot.condition.meaning }
+  return finding(new_node(owner, slot.type, slot.name), at, "missingCalledFor", values)
+end
+
+local read_slots, read_elements
+
+-- Each reader of a child tells what became of it: `absent` (another tag, or bytes that do not
+-- decode), `invalid` (decoded, out of its range or rules) or `valid`; and why it is not valid.
+local function read_composite(walk, node)
+  local type = node.type
+  local fault = read_header(walk, node)
+  if fault then
+    return "absent", fault
+  end
+  node.isComposite = true
+  node.filled = {}
+  fault = (type.slots and read_slots or read_elements)(walk, node, type)
+  node.size = walk.at - node.at
+  if fault then
+    return "absent", fault
+  end
+  note_length(walk, node)
+  local unmet = type.slots and unmet_condition(node, type.slots)
+  if unmet then
+    return "invalid", needed(node, unmet, walk.at)
+  end
+  fault = type.item and count_fault(node, node.at, "element")
+  return fault and "invalid" or "valid", fault
+end
+
+local function read_child(walk, node)
+  if node.type.isComposite then
+    return read_composite(walk, node)
+  end
+  local fault = read_value(walk, node)
+  if fault then
+    return "absent", fault
+  end
+  fault = find_invalid(node)
+  return fault and "invalid" or "valid", fault
+end
+
+local function leave_out(walk, slot, fault)
+  walk.leftOut[#walk.leftOut + 1] = { at = walk.at, name = slot.name, why = fault }
+end
+
+-- Whether a child that is not taken refuses its owner, and why.
+local function refusal(walk, owner, row, slot, node, outcome, fault)
+  if slot.isMandatory then
+    return fault
+  end
+  local stoodThere = tag_at(walk) == slot.type.tag
+  if outcome == "valid" then
+    fault = finding(node, walk.at, "uncalled", { condition = slot.condition.meaning })
+  end
+  if slot.condition then
+    local calledFor = is_called_for(owner, slot)
+    if outcome == "absent" and calledFor and not stoodThere then
+      fault = finding(node, fault.at, "otherThanCalledFor", {
+        condition = slot.condition.meaning,
+        found = label_of_tag(tag_at(walk)),
+      })
+    end
+    local refuses = calledFor
+    if outcome ~= "absent" then
+      refuses = row.rule == "refuseUncalled"
+    end
+    if refuses then
+      return fault
+    end
+  end
+  if stoodThere then
+    leave_out(walk, slot, fault)
+  end
+end
+
+-- Goes back to where a child began that is not taken; what was noted in it does not count.
+local function go_back(walk, at, noteCount)
+  walk.at = at
+  for i = #walk.notes, noteCount + 1, -1 do
+    walk.notes[i] = nil
+  end
+end
+
+-- Tries the child of one slot at the current position and moves behind it if it is taken. Returns
+-- why the owner is refused, if it is.
+local function read_slot(walk, owner, row, slot)
+  if not slot.isMandatory and not slot.condition and tag_at(walk) ~= slot.type.tag then
+    return nil
+  end
+  local start, noteCount = walk.at, #walk.notes
+  local node = new_node(owner, slot.type, slot.name)
+  local outcome, fault = read_child(walk, node)
+  if outcome == "valid" and is_called_for(owner, slot) then
+    owner[#owner + 1] = node
+    owner.filled[slot] = true
+    return nil
+  end
+  go_back(walk, start, noteCount)
+  fault = refusal(walk, owner, row, slot, node, outcome, fault)
+  if fault and node.isComposite then
+    owner[#owner + 1] = node -- shows how far it went
+  end
+  return fault
+end
+
+-- The bytes have ended before slot `next`.
+local function end_of_bytes(walk, owner, row, next)
+  for i = next, #row.slots do
+    local slot = row.slots[i]
+    if slot.isMandatory then
+      local missing = new_node(owner, slot.type, slot.name)
+      return finding(missing, walk.at, "missingAtEnd", { ie = slot.type.label })
+    end
+    local mayRefuse = slot.condition and row.rule == "dropUncalledRequireAtEnd"
+    if mayRefuse and is_called_for(owner, slot) then
+      return needed(owner, slot, walk.at)
+    end
+  end
+end
+
+function read_slots(walk, owner, row)
+  for i, slot in ipairs(row.slots) do
+    if walk.at == walk.length then
+      return end_of_bytes(walk, owner, row, i)
+    end
+    local fault = read_slot(walk, owner, row, slot)
+    if fault then
+      return fault
+    end
+  end
+end
+
+-- A list's length is what its elements may take together; each is bounded by the bytes that remain.
+function read_elements(walk, list, type)
+  local start = walk.at
+  list.count = 0
+  while walk.at - start < list.declared do
+    if walk.at == walk.length then
+      return finding(list, start - headerSize + tagSize, "endsInList", {
+        declared = number_text(list.declared),
+        taken = number_text(walk.at - start),
+      })
+    end
+    local at, noteCount = walk.at, #walk.notes
+    local element = new_node(list, type.item, type.item.name, list.count)
+    local outcome, fault = read_composite(walk, element)
+    if element.isComposite then
+      list[#list + 1] = element
+    end
+    if outcome ~= "valid" then
+      go_back(walk, at, noteCount)
+      return fault
+    end
+    list.count = list.count + 1
+    if walk.at - start > list.declared then
+      return finding(element, walk.at, "passesEnd", {
+        list = path_of(list),
+        declared = number_text(list.declared),
+      })
+    end
+  end
+end
+
+-- ---- The message -------------------------------------------------------------------------------
+
+-- Adds what was left out at the position where the walk stopped, and what, inside that, was left
+-- out where it stopped in its turn.
+local function add_left_out(walk, stop, findings)
+  for i = #walk.leftOut, 1, -1 do
+    local left = walk.leftOut[i]
+    if left.at == stop then
+      left.why.what = left.why.what .. ", so " .. left.name .. " was left out"
+      findings[#findings + 1] = left.why
+      stop = left.why.at
+    end
+  end
+end
+
+local function belongs(message, tag)
+  for _, slot in ipairs(message.slots) do
+    if slot.type.tag == tag then
+      return true
+    end
+  end
+  return tag == messageIdType.tag
+end
+
+-- Bytes behind the last IE that the message takes are ignored. Tells what they are.
+local function explain_rest(walk, root, message)
+  local left = walk.length - walk.at
+  if left == 0 then
+    return
+  end
+  local reason, tag = "ignored", tag_at(walk)
+  local last = walk.leftOut[#walk.leftOut]
+  if left >= headerSize then
+    reason = "ignoredFrom"
+    if not belongs(message, tag) then
+      reason = "ignoredForeign"
+    elseif not last or last.at ~= walk.at then
+      reason = "ignoredOrder"
+    end
+  end
+  walk.notes[#walk.notes + 1] = finding(root, walk.at, reason, {
+    count = counted(left, "byte"),
+    found = label_of_tag(tag),
+    message = message.name,
+  })
+  add_left_out(walk, walk.at, walk.notes)
+end
+
+local function read_message_id(walk, root)
+  local node = new_node(root, messageIdType, messageIdType.name)
+  local fault = read_value(walk, node)
+  if fault then
+    return nil, fault
+  end
+  root[1] = node
+  local message = messagesById[node.number]
+  return message, not message and finding(node, headerSize, "unknownMessage", { id = node.number })
+end
+
+-- Reads the bytes of one message, a string. The result: the message's row if it is known, the IEs
+-- read as nodes below `root`, the verdict (`valid`, `invalid` or `refused`), the faults that it
+-- rests on, notes on what was let pass, and how many bytes were taken.
+local function read_message(bytes)
+  local walk = { bytes = bytes, length = #bytes, at = 0, notes = {}, leftOut = {} }
+  local root = { filled = {} }
+  local result = { root = root, faults = {}, notes = walk.notes, taken = 0, verdict = "refused" }
+  local message, fault = read_message_id(walk, root)
+  result.message = message
+  fault = fault or read_slots(walk, root, message)
+  if fault then
+    result.faults[1] = fault
+    add_left_out(walk, fault.at, result.faults)
+    return result
+  end
+  local unmet = unmet_condition(root, message.slots)
+  result.faults[1] = unmet and needed(root, unmet, walk.at)
+  result.verdict = unmet and "invalid" or "valid"
+  explain_rest(walk, root, message)
+  result.taken = walk.at
+  return result
+end
+
+local engine = {
+  rows = rows,
+  read_message = read_message,
+  words = words,
+  path_of = path_of,
+  messagesById = messagesById,
+  headerSize = headerSize,
+}
+
+if not Proto then
+  return engine -- Wireshark is not here
+end
+

@@ -1,0 +1,1079 @@
+-- Wireshark's view of the messages between a 3G access point and its access controller.
+--
+-- Written by header_writer from the rows in src/catalogue and from wireshark/engine.lua and
+-- wireshark/plugin.lua; do not edit: change those, then run
+-- `cmake --build build/dev --target headers`.
+
+local rows = {
+  largestMessage = 70820,
+  types = {
+    { name = "Srnti", tag = 1, shape = "scalar", width = 4, least = 0, greatest = 4294967295, term = "Serving RNC temporary identity (S-RNTI) of the UE" },
+    { name = "EstablishCause", tag = 2, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "RRC establishment cause" },
+    { name = "AcUeId", tag = 3, shape = "scalar", width = 4, least = 0, greatest = 4294967295, term = "UE identifier on the access controller's side" },
+    { name = "RejectCause", tag = 4, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Cause of a rejected UE context request" },
+    { name = "ReleaseCause", tag = 5, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Cause of a UE context release" },
+    { name = "CnDomainId", tag = 6, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Core network domain indicator (circuit or packet switched)" },
+    { name = "SapiId", tag = 8, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Service access point identifier (SAPI) of a NAS message" },
+    { name = "IuRelReqCause", tag = 9, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Cause of an Iu release request" },
+    { name = "KeyStatus", tag = 10, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Key status: whether the security keys are new or old" },
+    { name = "IntProtAlgo", tag = 12, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Integrity protection algorithm (UIA)" },
+    { name = "EncryptAlgo", tag = 17, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Encryption algorithm (UEA)" },
+    { name = "SecRejCause", tag = 18, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Cause of a rejected security mode command" },
+    { name = "UserPlaneMode", tag = 20, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Iu user plane mode (transparent or support mode)" },
+    { name = "RabId", tag = 23, shape = "scalar", width = 1, least = 0, greatest = 255, term = "Radio access bearer (RAB) identifier" },
+    { name = "AcUserPlaneAssociation", tag = 24, shape = "scalar", width = 4, least = 0, greatest = 4294967295, term = "User plane association identifier on the access controller's side" },
+    { name = "NasSyncInd", tag = 25, shape = "scalar", width = 1, least = 0, greatest = 255, term = "NAS synchronisation indicator" },
+    { name = "TrafficClass", tag = 27, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Traffic class; 3 is interactive, 0 and 2 count as real-time" },
+    { name = "RabAssymetryInd", tag = 28, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "RAB asymmetry indicator" },
+    { name = "MaxSduSize", tag = 29, shape = "scalar", width = 2, least = 0, greatest = 65535, term = "Maximum SDU size" },
+    { name = "DeliveryOfErrSdu", tag = 35, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Delivery of erroneous SDUs" },
+    { name = "Mantissa", tag = 37, shape = "scalar", width = 1, least = 0, greatest = 255, term = "Mantissa of a bit error ratio" },
+    { name = "Exponent", tag = 38, shape = "scalar", width = 1, least = 0, greatest = 255, term = "Exponent of a bit error ratio" },
+    { name = "UserPlaneModeVersions", tag = 39, shape = "scalar", width = 2, least = 0, greatest = 65535, term = "Iu user plane mode versions, one bit each" },
+    { name = "SduSize", tag = 42, shape = "scalar", width = 2, least = 0, greatest = 65535, term = "Subflow SDU size" },
+    { name = "RabSubflowCombBitRate", tag = 43, shape = "scalar", width = 4, least = 0, greatest = 4294967295, term = "RAB subflow combination bit rate" },
+    { name = "ApUserPlaneAssociation", tag = 44, shape = "scalar", width = 2, least = 0, greatest = 65535, term = "User plane association identifier on the access point's side (2 bytes, against 4 on the other side)" },
+    { name = "SourceStatsDescriptor", tag = 47, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Source statistics descriptor" },
+    { name = "TransDelay", tag = 48, shape = "scalar", width = 2, least = 0, greatest = 65535, term = "Transfer delay" },
+    { name = "TrafficHandlingPriority", tag = 49, shape = "scalar", width = 1, least = 0, greatest = 255, term = "Traffic handling priority" },
+    { name = "PriorityLevel", tag = 51, shape = "scalar", width = 1, least = 0, greatest = 255, term = "Priority level of an allocation" },
+    { name = "PreemptionCapability", tag = 52, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Pre-emption capability" },
+    { name = "PreemptionVulnerability", tag = 53, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Pre-emption vulnerability" },
+    { name = "QueuingAllowed", tag = 54, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Whether queuing of the request is allowed" },
+    { name = "DeliveryOrder", tag = 55, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Whether SDUs are delivered in order" },
+    { name = "IuRelCause", tag = 56, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Cause of an Iu release" },
+    { name = "UdpPort", tag = 62, shape = "scalar", width = 2, least = 0, greatest = 65535, term = "UDP port" },
+    { name = "RabSetupFailCause", tag = 65, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Cause of a failed RAB set-up" },
+    { name = "RabReleaseCause", tag = 68, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Cause of a RAB release" },
+    { name = "MessageId", tag = 72, shape = "scalar", width = 1, least = 0, greatest = 255, term = "Message identifier; the first IE of every message" },
+    { name = "ErrorCause", tag = 73, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Cause of a reset after an error" },
+    { name = "PagingCause", tag = 74, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Paging cause" },
+    { name = "PagingRecordTypeInd", tag = 75, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Paging record type identifier" },
+    { name = "DrxCycleLenCoeff", tag = 76, shape = "scalar", width = 2, least = 0, greatest = 65535, term = "DRX cycle length coefficient" },
+    { name = "TempUeIdType", tag = 78, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Type of a temporary UE identity (TMSI or P-TMSI)" },
+    { name = "Tos", tag = 88, shape = "scalar", width = 1, least = 0, greatest = 255, term = "IP type-of-service byte" },
+    { name = "RtcpTransInterval", tag = 89, shape = "scalar", width = 2, least = 0, greatest = 65535, term = "RTCP transmission interval" },
+    { name = "JitterBufferSize", tag = 90, shape = "scalar", width = 2, least = 0, greatest = 65535, term = "Jitter buffer size" },
+    { name = "RtpStreamId", tag = 91, shape = "scalar", width = 1, least = 0, greatest = 255, term = "RTP stream identifier" },
+    { name = "UserPlaneResult", tag = 93, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Result of a user plane configuration; 0 is success" },
+    { name = "UnSuccTransferAtRlc", tag = 97, shape = "scalar", width = 4, least = 0, greatest = 4294967295, term = "Data volume unsuccessfully transferred, counted at RLC" },
+    { name = "SuccTransferAtPsiw", tag = 98, shape = "scalar", width = 4, least = 0, greatest = 4294967295, term = "Data volume successfully transferred, counted at the packet switched interworking" },
+    { name = "DataVolReportingFlag", tag = 99, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Whether unsuccessfully transferred data volume is reported" },
+    { name = "Reset3GAP", tag = 100, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Whether the whole access point is reset; 1 means all of it, without UE contexts listed" },
+    { name = "RespExpected", tag = 101, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Whether a response is expected" },
+    { name = "RelocationRequiredCause", tag = 104, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Cause of a required relocation" },
+    { name = "RAC", tag = 110, shape = "scalar", width = 1, least = 0, greatest = 255, term = "Routing area code (RAC)" },
+    { name = "RNCId", tag = 111, shape = "scalar", width = 2, least = 0, greatest = 4096, term = "RNC identifier; the bound takes in 4096, one more than 12 bits can carry" },
+    { name = "TargetCellId", tag = 118, shape = "scalar", width = 4, least = 0, greatest = 268435455, term = "Target cell identity, 28 bits" },
+    { name = "RelocationFailureCause", tag = 119, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Cause of a failed relocation" },
+    { name = "HandoverFailureCause", tag = 126, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Cause of a failed handover" },
+    { name = "ServiceHandover", tag = 127, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Service handover: whether the RAB should be handed over to GSM" },
+    { name = "HandoverRequestCause", tag = 128, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Cause of a handover request" },
+    { name = "RelocationCancelCause", tag = 130, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Cause of a cancelled relocation" },
+    { name = "NumIuInstances", tag = 154, shape = "scalar", width = 1, least = 1, greatest = 2, term = "Number of Iu instances" },
+    { name = "RelocationType", tag = 155, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Relocation type; 0 is inter-RAT, 1 is intra-RAT" },
+    { name = "CsUserEncryptAlgo", tag = 157, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Encryption algorithm of the circuit switched user plane" },
+    { name = "PsUserEncryptAlgo", tag = 158, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Encryption algorithm of the packet switched user plane" },
+    { name = "MaxBitRateUplink", tag = 160, shape = "scalar", width = 4, least = 0, greatest = 8000000, term = "Maximum uplink bit rate, bit/s" },
+    { name = "MaxBitRateDownlink", tag = 161, shape = "scalar", width = 4, least = 0, greatest = 16000000, term = "Maximum downlink bit rate, bit/s; twice the uplink's bound" },
+    { name = "CpsSduMaxBitRate", tag = 163, shape = "scalar", width = 4, least = 0, greatest = 2097152, term = "Maximum CPS-SDU bit rate of an AAL2 link" },
+    { name = "CpsSduMaxSize", tag = 164, shape = "scalar", width = 4, least = 1, greatest = 45, term = "Maximum CPS-SDU size of an AAL2 link, bytes; 4 bytes on the wire although 1 would do" },
+    { name = "CpsSduAvgBitRate", tag = 165, shape = "scalar", width = 4, least = 0, greatest = 2097152, term = "Average CPS-SDU bit rate of an AAL2 link" },
+    { name = "CpsSduAvgSize", tag = 166, shape = "scalar", width = 4, least = 1, greatest = 45, term = "Average CPS-SDU size of an AAL2 link, bytes; 4 bytes on the wire although 1 would do" },
+    { name = "LacMatch", tag = 168, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Whether the location area code matches" },
+    { name = "IuRelCauseNew", tag = 170, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "A second Iu release cause beside IuRelCause" },
+    { name = "GtpTeid", tag = 171, shape = "scalar", width = 4, least = 0, greatest = 4294967295, term = "GTP tunnel endpoint identifier (TEID)" },
+    { name = "GtpEchoPeriod", tag = 172, shape = "scalar", width = 2, least = 60, greatest = 600, term = "Period of GTP echo requests, seconds" },
+    { name = "MuxUdpPort", tag = 174, shape = "scalar", width = 2, least = 0, greatest = 65535, term = "UDP port of a multiplexed user plane" },
+    { name = "RoutingBasis", tag = 175, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "Identity on which the intra-domain NAS node selection is based" },
+    { name = "RoutingParameter", tag = 176, shape = "scalar", width = 2, least = 0, greatest = 1023, term = "Routing parameter of the intra-domain NAS node selection, 10 bits" },
+    { name = "BitRate", tag = 31, shape = "scalar", width = 4, least = 0, greatest = 4294967295, term = "One bit rate of BitRates, bit/s" },
+    { name = "PdpTypeInfo", tag = 46, shape = "scalar", width = 2, least = 0, greatest = 4294967295, term = "One PDP type of PdpTypeInfoList" },
+    { name = "IpAddressByte", tag = 61, shape = "scalar", width = 1, least = 0, greatest = 255, term = "One byte of an IpAddress" },
+    { name = "NasMsg", tag = 7, shape = "bytes", capacity = 4096, least = 1, greatest = 4095, term = "NAS message, passed through (NAS-PDU)" },
+    { name = "IntProtKey", tag = 13, shape = "bytes", capacity = 16, least = 16, greatest = 16, term = "Integrity protection key (IK)" },
+    { name = "EncryptKey", tag = 16, shape = "bytes", capacity = 16, least = 16, greatest = 16, term = "Encryption key (CK)" },
+    { name = "TempUeIdValue", tag = 79, shape = "bytes", capacity = 4, least = 4, greatest = 4, term = "Temporary UE identity (TMSI or P-TMSI)" },
+    { name = "MasterKey", tag = 85, shape = "bytes", capacity = 16, least = 0, greatest = 16, term = "SRTP master key" },
+    { name = "MasterSalt", tag = 86, shape = "bytes", capacity = 14, least = 0, greatest = 14, term = "SRTP master salt" },
+    { name = "NasUeId", tag = 92, shape = "bytes", capacity = 8, least = 3, greatest = 8, term = "Permanent NAS UE identity" },
+    { name = "PLMNId", tag = 108, shape = "bytes", capacity = 3, least = 3, greatest = 3, term = "PLMN identity" },
+    { name = "LAC", tag = 109, shape = "bytes", capacity = 2, least = 2, greatest = 2, term = "Location area code (LAC), a 2-byte string and not a number" },
+    { name = "CI", tag = 113, shape = "bytes", capacity = 2, least = 2, greatest = 2, term = "Cell identity (CI), a 2-byte string and not a number" },
+    { name = "GsmClassmark2", tag = 114, shape = "bytes", capacity = 5, least = 0, greatest = 5, term = "GSM mobile station classmark 2" },
+    { name = "GsmClassmark3", tag = 115, shape = "bytes", capacity = 32, least = 1, greatest = 32, term = "GSM mobile station classmark 3" },
+    { name = "RrcContainer", tag = 117, shape = "bytes", capacity = 2000, least = 0, greatest = 2000, term = "RRC container, passed through" },
+    { name = "L3Information", tag = 120, shape = "bytes", capacity = 255, least = 0, greatest = 255, term = "Layer 3 information, passed through" },
+    { name = "OldBssToNewBssInfo", tag = 159, shape = "bytes", capacity = 255, least = 0, greatest = 255, term = "Old BSS to new BSS information, passed through" },
+    { name = "Imsi", tag = 169, shape = "bytes", capacity = 16, least = 16, greatest = 16, term = "Subscriber identity (IMSI), 16 opaque bytes" },
+    { name = "IntProtInfo", tag = 11, shape = "record", members = { "IntProtAlgo", "IntProtKey" }, term = "Integrity protection information: algorithm and key" },
+    { name = "EncryptAlgos", tag = 15, shape = "list", capacity = 2, least = 1, greatest = 2, item = "EncryptAlgo", term = "Permitted encryption algorithms" },
+    { name = "EncryptInfo", tag = 14, shape = "record", members = { "EncryptAlgos", "EncryptKey" }, term = "Encryption information: permitted algorithms and key" },
+    { name = "UserPlaneInfo", tag = 32, shape = "record", members = { "UserPlaneMode", "UserPlaneModeVersions" }, term = "User plane information: Iu user plane mode and its versions" },
+    { name = "BitErrRatio", tag = 36, shape = "record", members = { "Mantissa", "Exponent" }, term = "Bit error ratio: mantissa times ten to the minus exponent" },
+    { name = "AllocRetPriority", tag = 50, shape = "record", members = { "PriorityLevel", "PreemptionCapability", "PreemptionVulnerability", "QueuingAllowed" }, term = "Allocation/retention priority" },
+    { name = "TempUeId", tag = 77, shape = "record", members = { "TempUeIdType", "TempUeIdValue" }, term = "Temporary UE identity: type and value" },
+    { name = "RtpSecurityInfo", tag = 84, shape = "record", members = { "MasterKey", "MasterSalt" }, term = "SRTP keying material: master key and master salt" },
+    { name = "LAI", tag = 107, shape = "record", members = { "PLMNId", "LAC" }, term = "Location area identity (LAI): PLMN and location area code" },
+    { name = "TargetCGI", tag = 112, shape = "record", members = { "PLMNId", "LAC", "CI" }, term = "Cell global identity (CGI) of the target cell" },
+    { name = "AlcapLinkCharacteristics", tag = 162, shape = "record", members = { "CpsSduMaxBitRate", "CpsSduMaxSize", "CpsSduAvgBitRate", "CpsSduAvgSize" }, term = "ALCAP link characteristics of an AAL2 link" },
+    { name = "Idnns", tag = 177, shape = "record", members = { "RoutingBasis", "RoutingParameter" }, term = "Intra-domain NAS node selector (IDNNS)" },
+    { name = "RabSetupFailedInfo", tag = 64, shape = "record", members = { "RabId", "RabSetupFailCause" }, term = "One RAB that could not be set up, and why" },
+    { name = "RabReleaseInfo", tag = 67, shape = "record", members = { "RabId", "RabReleaseCause" }, term = "One RAB to release, and why" },
+    { name = "RabIdList", tag = 167, shape = "list", capacity = 3, least = 1, greatest = 3, item = "RabId", term = "RAB identifiers; the items carry the tag of the RabId IE itself" },
+    { name = "HandoutRabReleaseInfo", tag = 122, shape = "record", members = { "CnDomainId", "RabIdList" }, term = "The RABs of one core network domain to release at a handout" },
+    { name = "IpAddress", tag = 60, shape = "list", capacity = 4, least = 4, greatest = 4, item = "IpAddressByte", term = "IPv4 address, four one-byte items, most significant first" },
+    { name = "BitRates", tag = 30, shape = "list", capacity = 2, least = 0, greatest = 2, item = "BitRate", term = "Bit rates, bit/s, one for each direction" },
+    { name = "PdpTypeInfoList", tag = 45, shape = "list", capacity = 2, least = 0, greatest = 2, item = "PdpTypeInfo", term = "PDP type information" },
+    { name = "RabSetupFailedList", tag = 63, shape = "list", capacity = 3, least = 0, greatest = 3, item = "RabSetupFailedInfo", term = "RABs that could not be set up" },
+    { name = "RabReleaseList", tag = 66, shape = "list", capacity = 3, least = 0, greatest = 3, item = "RabReleaseInfo", term = "RABs to release" },
+    { name = "HandoutRabReleaseList", tag = 121, shape = "list", capacity = 2, least = 1, greatest = 2, item = "HandoutRabReleaseInfo", term = "RABs to release at a handout, by core network domain" },
+    { name = "RabDataInfo", tag = 103, shape = "sequence", term = "Data volumes transferred over one RAB", rule = "none", slots = {
+      { name = "RabId", type = "RabId", presence = "mandatory" },
+      { name = "SuccTransferAtPsiw", type = "SuccTransferAtPsiw", presence = "mandatory" },
+      { name = "UnSuccTransferAtRlc", type = "UnSuccTransferAtRlc", presence = "optional" },
+    } },
+    { name = "SduFormatInfoParams", tag = 41, shape = "sequence", term = "SDU format information of one RAB subflow combination", rule = "none", slots = {
+      { name = "SduSize", type = "SduSize", presence = "optional" },
+      { name = "RabSubflowCombBitRate", type = "RabSubflowCombBitRate", presence = "optional" },
+    } },
+    { name = "RabSetupSuccessInfo", tag = 58, shape = "sequence", term = "One RAB that was set up", rule = "none", slots = {
+      { name = "RabId", type = "RabId", presence = "mandatory" },
+      { name = "UdpPort", type = "UdpPort", presence = "optional" },
+      { name = "GtpTeid", type = "GtpTeid", presence = "optional" },
+    } },
+    { name = "ModifiedSrncContainer", tag = 116, shape = "sequence", term = "Source RNC to target RNC transparent container, as modified for the access point", rule = "none", slots = {
+      { name = "RrcContainer", type = "RrcContainer", presence = "mandatory" },
+      { name = "TargetCellId", type = "TargetCellId", presence = "mandatory" },
+      { name = "NumIuInstances", type = "NumIuInstances", presence = "mandatory" },
+      { name = "IntProtAlgo", type = "IntProtAlgo", presence = "optional" },
+      { name = "IntProtKey", type = "IntProtKey", presence = "optional" },
+      { name = "EncryptAlgo", type = "EncryptAlgo", presence = "optional" },
+      { name = "EncryptKey", type = "EncryptKey", presence = "optional" },
+      { name = "CsUserEncryptAlgo", type = "CsUserEncryptAlgo", presence = "optional" },
+      { name = "PsUserEncryptAlgo", type = "PsUserEncryptAlgo", presence = "optional" },
+    } },
+    { name = "PsIuhGatewayInfo", tag = 173, shape = "sequence", term = "Packet switched gateway: GTP-U endpoint of the user plane", rule = "none", slots = {
+      { name = "IpAddress", type = "IpAddress", presence = "mandatory" },
+      { name = "GtpTeid", type = "GtpTeid", presence = "mandatory" },
+      { name = "UdpPort", type = "UdpPort", presence = "optional" },
+      { name = "Tos", type = "Tos", presence = "optional" },
+      { name = "GtpEchoPeriod", type = "GtpEchoPeriod", presence = "optional" },
+    } },
+    { name = "RtpServerInfo", tag = 87, shape = "sequence", term = "RTP server: endpoint of the circuit switched user plane", rule = "none", slots = {
+      { name = "IpAddress", type = "IpAddress", presence = "mandatory" },
+      { name = "UdpPort", type = "UdpPort", presence = "mandatory" },
+      { name = "Tos", type = "Tos", presence = "optional" },
+      { name = "RtcpTransInterval", type = "RtcpTransInterval", presence = "optional" },
+      { name = "JitterBufferSize", type = "JitterBufferSize", presence = "optional" },
+      { name = "MuxUdpPort", type = "MuxUdpPort", presence = "optional" },
+    } },
+    { name = "TargetRNCId", tag = 106, shape = "sequence", term = "Target RNC identity", rule = "none", slots = {
+      { name = "LAI", type = "LAI", presence = "mandatory" },
+      { name = "RNCId", type = "RNCId", presence = "mandatory" },
+      { name = "RAC", type = "RAC", presence = "optional" },
+    } },
+    { name = "RabDataInfoList", tag = 102, shape = "compositeList", term = "Data volumes of the UE's RABs", item = "RabDataInfo", least = 1, greatest = 3 },
+    { name = "UeContextRef", tag = 95, shape = "sequence", term = "Reference to one UE context", rule = "none", slots = {
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "Srnti", type = "Srnti", presence = "optional" },
+      { name = "RabDataInfoList", type = "RabDataInfoList", presence = "optional" },
+    } },
+    { name = "RabSetupSuccessList", tag = 57, shape = "compositeList", term = "RABs that were set up", item = "RabSetupSuccessInfo", least = 0, greatest = 3 },
+    { name = "ResourceInfoPerCnDomainAck", tag = 152, shape = "sequence", term = "Resources allocated for one core network domain at a handover", rule = "none", slots = {
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "RabSetupSuccessList", type = "RabSetupSuccessList", presence = "optional" },
+      { name = "RabSetupFailedList", type = "RabSetupFailedList", presence = "optional" },
+      { name = "EncryptAlgo", type = "EncryptAlgo", presence = "optional" },
+    } },
+    { name = "ResourceInfoPerCnDomainListAck", tag = 153, shape = "compositeList", term = "Resources allocated at a handover, by core network domain", item = "ResourceInfoPerCnDomainAck", least = 1, greatest = 2 },
+    { name = "SduFormatInfoParamList", tag = 40, shape = "compositeList", term = "SDU format information parameters", item = "SduFormatInfoParams", least = 0, greatest = 64 },
+    { name = "SduParamValue", tag = 34, shape = "sequence", term = "SDU parameters of one RAB subflow", rule = "none", slots = {
+      { name = "DeliveryOfErrSdu", type = "DeliveryOfErrSdu", presence = "mandatory" },
+      { name = "BitErrRatio", type = "BitErrRatio", presence = "mandatory" },
+      { name = "SduFormatInfoParamList", type = "SduFormatInfoParamList", presence = "optional" },
+      { name = "SecondBitErrRatio", type = "BitErrRatio", presence = "optional" },
+    } },
+    { name = "SduParams", tag = 33, shape = "compositeList", term = "SDU parameters, one element for each RAB subflow", item = "SduParamValue", least = 0, greatest = 7 },
+    { name = "RabParams", tag = 26, shape = "sequence", term = "RAB parameters (quality of service)", rule = "refuseUncalled", slots = {
+      { name = "TrafficClass", type = "TrafficClass", presence = "mandatory" },
+      { name = "RabAssymetryInd", type = "RabAssymetryInd", presence = "mandatory" },
+      { name = "DeliveryOrder", type = "DeliveryOrder", presence = "mandatory" },
+      { name = "MaxSduSize", type = "MaxSduSize", presence = "mandatory" },
+      { name = "BitRates", type = "BitRates", presence = "mandatory" },
+      { name = "SduParams", type = "SduParams", presence = "mandatory" },
+      { name = "PdpTypeInfoList", type = "PdpTypeInfoList", presence = "optional" },
+      { name = "AllocRetPriority", type = "AllocRetPriority", presence = "optional" },
+      { name = "DataVolReportingFlag", type = "DataVolReportingFlag", presence = "optional" },
+      { name = "SecondBitRates", type = "BitRates", presence = "conditional", condition = "realTime" },
+      { name = "SourceStatsDescriptor", type = "SourceStatsDescriptor", presence = "conditional", condition = "realTime" },
+      { name = "TransDelay", type = "TransDelay", presence = "conditional", condition = "realTime" },
+      { name = "TrafficHandlingPriority", type = "TrafficHandlingPriority", presence = "conditional", condition = "interactive" },
+    } },
+    { name = "RabToSetUpInfo", tag = 22, shape = "sequence", term = "One RAB to set up", rule = "none", slots = {
+      { name = "RabId", type = "RabId", presence = "mandatory" },
+      { name = "AcUserPlaneAssociation", type = "AcUserPlaneAssociation", presence = "mandatory" },
+      { name = "RabParams", type = "RabParams", presence = "mandatory" },
+      { name = "NasSyncInd", type = "NasSyncInd", presence = "optional" },
+      { name = "UserPlaneInfo", type = "UserPlaneInfo", presence = "optional" },
+      { name = "ServiceHandover", type = "ServiceHandover", presence = "optional" },
+    } },
+    { name = "RabList", tag = 21, shape = "compositeList", term = "RABs to set up", item = "RabToSetUpInfo", least = 0, greatest = 3 },
+    { name = "RabToSetupPerCnDomain", tag = 125, shape = "sequence", term = "RABs to set up for one core network domain at a handover", rule = "none", slots = {
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "RabList", type = "RabList", presence = "optional" },
+      { name = "EncryptInfo", type = "EncryptInfo", presence = "optional" },
+    } },
+    { name = "RabToSetupPerCnDomainList", tag = 150, shape = "compositeList", term = "RABs to set up at a handover, by core network domain", item = "RabToSetupPerCnDomain", least = 1, greatest = 2 },
+  },
+  messages = {
+    { name = "UeContextRequest", id = 1, term = "AP to AC: asks for a UE context", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "EstablishCause", type = "EstablishCause", presence = "mandatory" },
+    } },
+    { name = "UeContextAccept", id = 2, term = "AC to AP: accepts a UE context request", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+    } },
+    { name = "UeContextReject", id = 3, term = "AC to AP: rejects a UE context request", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "RejectCause", type = "RejectCause", presence = "mandatory" },
+    } },
+    { name = "UeContextRelease", id = 4, term = "Releases a UE context", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "ReleaseCause", type = "ReleaseCause", presence = "mandatory" },
+      { name = "RabDataInfoList", type = "RabDataInfoList", presence = "optional" },
+    } },
+    { name = "InitDirectTransfer", id = 5, term = "AP to AC: the UE's first NAS message towards a core network domain", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "NasMsg", type = "NasMsg", presence = "mandatory" },
+      { name = "Imsi", type = "Imsi", presence = "optional" },
+      { name = "Idnns", type = "Idnns", presence = "optional" },
+    } },
+    { name = "UlDirectTransfer", id = 6, term = "AP to AC: a NAS message from the UE", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "NasMsg", type = "NasMsg", presence = "mandatory" },
+    } },
+    { name = "DlDirectTransfer", id = 7, term = "AC to AP: a NAS message to the UE", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "NasMsg", type = "NasMsg", presence = "mandatory" },
+      { name = "SapiId", type = "SapiId", presence = "mandatory" },
+    } },
+    { name = "IuReleaseRequest", id = 8, term = "AP to AC: asks for the release of an Iu connection", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "IuRelReqCause", type = "IuRelReqCause", presence = "mandatory" },
+    } },
+    { name = "IuReleaseCommand", id = 9, term = "AC to AP: releases an Iu connection", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "IuRelCause", type = "IuRelCause", presence = "mandatory" },
+      { name = "RespExpected", type = "RespExpected", presence = "mandatory" },
+      { name = "IuRelCauseNew", type = "IuRelCauseNew", presence = "optional" },
+    } },
+    { name = "SecurityModeCommand", id = 10, term = "AC to AP: starts integrity protection and ciphering", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "IntProtInfo", type = "IntProtInfo", presence = "mandatory" },
+      { name = "KeyStatus", type = "KeyStatus", presence = "mandatory" },
+      { name = "EncryptInfo", type = "EncryptInfo", presence = "optional" },
+    } },
+    { name = "SecurityModeComplete", id = 11, term = "AP to AC: security mode control has succeeded", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "IntProtAlgo", type = "IntProtAlgo", presence = "mandatory" },
+      { name = "EncryptAlgo", type = "EncryptAlgo", presence = "optional" },
+    } },
+    { name = "SecurityModeReject", id = 12, term = "AP to AC: security mode control has failed", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "SecRejCause", type = "SecRejCause", presence = "mandatory" },
+    } },
+    { name = "RabAssignmentRequest", id = 13, term = "AC to AP: sets up RABs", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "RabList", type = "RabList", presence = "mandatory" },
+    } },
+    { name = "RabAssignmentResponse", id = 14, term = "AP to AC: tells which RABs were set up", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "RabSetupSuccessList", type = "RabSetupSuccessList", presence = "optional" },
+      { name = "RabSetupFailedList", type = "RabSetupFailedList", presence = "optional" },
+    } },
+    { name = "RabReleaseRequest", id = 15, term = "Releases RABs", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "RabReleaseList", type = "RabReleaseList", presence = "mandatory" },
+    } },
+    { name = "RabReleaseResponse", id = 16, term = "Tells which RABs were released", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "RabDataInfoList", type = "RabDataInfoList", presence = "optional" },
+      { name = "RabIdList", type = "RabIdList", presence = "optional" },
+    } },
+    { name = "Reset", id = 17, term = "Resets one core network domain", rule = "none", slots = {
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+    } },
+    { name = "IapReset", id = 18, term = "Resets the access point or the UE contexts listed", rule = "dropUncalled", slots = {
+      { name = "ErrorCause", type = "ErrorCause", presence = "mandatory" },
+      { name = "Reset3GAP", type = "Reset3GAP", presence = "mandatory" },
+      { name = "UeContextRef", type = "UeContextRef", presence = "repeated", condition = "reset3GapNotPresent" },
+    } },
+    { name = "ConnectedModePaging", id = 19, term = "AC to AP: pages a UE that has a UE context", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "NasUeId", type = "NasUeId", presence = "mandatory" },
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "PagingCause", type = "PagingCause", presence = "mandatory" },
+      { name = "PagingRecordTypeInd", type = "PagingRecordTypeInd", presence = "mandatory" },
+    } },
+    { name = "IdleModePaging", id = 20, term = "AC to AP: pages a UE that has none", rule = "none", slots = {
+      { name = "NasUeId", type = "NasUeId", presence = "mandatory" },
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "PagingCause", type = "PagingCause", presence = "mandatory" },
+      { name = "DrxCycleLenCoeff", type = "DrxCycleLenCoeff", presence = "optional" },
+      { name = "TempUeId", type = "TempUeId", presence = "optional" },
+    } },
+    { name = "UserPlaneConfigRequest", id = 21, term = "Asks for a user plane to be configured", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "RtpStreamId", type = "RtpStreamId", presence = "mandatory" },
+      { name = "AcUserPlaneAssociation", type = "AcUserPlaneAssociation", presence = "mandatory" },
+      { name = "ApUserPlaneAssociation", type = "ApUserPlaneAssociation", presence = "mandatory" },
+      { name = "AlcapLinkCharacteristics", type = "AlcapLinkCharacteristics", presence = "optional" },
+      { name = "MaxBitRateUplink", type = "MaxBitRateUplink", presence = "optional" },
+      { name = "MaxBitRateDownlink", type = "MaxBitRateDownlink", presence = "optional" },
+    } },
+    { name = "UserPlaneConfigResponse", id = 22, term = "Tells how a user plane was configured", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "ApUserPlaneAssociation", type = "ApUserPlaneAssociation", presence = "mandatory" },
+      { name = "UserPlaneResult", type = "UserPlaneResult", presence = "mandatory" },
+      { name = "RtpServerInfo", type = "RtpServerInfo", presence = "optional" },
+      { name = "RtpSecurityInfo", type = "RtpSecurityInfo", presence = "optional" },
+      { name = "PsIuhGatewayInfo", type = "PsIuhGatewayInfo", presence = "optional" },
+    } },
+    { name = "IuReleaseComplete", id = 23, term = "AP to AC: an Iu connection was released", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "RabDataInfoList", type = "RabDataInfoList", presence = "optional" },
+    } },
+    { name = "RelocationRequired", id = 24, term = "AP to AC: asks for the relocation of a UE", rule = "dropUncalledRequireAtEnd", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "RelocationRequiredCause", type = "RelocationRequiredCause", presence = "mandatory" },
+      { name = "RelocationType", type = "RelocationType", presence = "mandatory" },
+      { name = "ModifiedSrncContainer", type = "ModifiedSrncContainer", presence = "conditional", condition = "intraRatRelocation" },
+      { name = "TargetRNCId", type = "TargetRNCId", presence = "conditional", condition = "intraRatRelocation" },
+      { name = "GsmClassmark2", type = "GsmClassmark2", presence = "conditional", condition = "interRatRelocation" },
+      { name = "GsmClassmark3", type = "GsmClassmark3", presence = "conditional", condition = "interRatRelocation" },
+      { name = "TargetCGI", type = "TargetCGI", presence = "conditional", condition = "interRatRelocation" },
+      { name = "OldBssToNewBssInfo", type = "OldBssToNewBssInfo", presence = "optional" },
+    } },
+    { name = "RelocationFailure", id = 25, term = "AC to AP: the relocation cannot be done", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "RelocationFailureCause", type = "RelocationFailureCause", presence = "mandatory" },
+    } },
+    { name = "RelocationCancel", id = 26, term = "AP to AC: cancels a relocation", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "RelocationCancelCause", type = "RelocationCancelCause", presence = "mandatory" },
+    } },
+    { name = "RelocationCommand", id = 27, term = "AC to AP: hands the UE over to the target", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "RrcContainer", type = "RrcContainer", presence = "optional" },
+      { name = "L3Information", type = "L3Information", presence = "optional" },
+      { name = "HandoutRabReleaseList", type = "HandoutRabReleaseList", presence = "optional" },
+    } },
+    { name = "HandoverRequest", id = 28, term = "AC to AP: asks the target to take a UE over", rule = "none", slots = {
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "HandoverRequestCause", type = "HandoverRequestCause", presence = "mandatory" },
+      { name = "ModifiedSrncContainer", type = "ModifiedSrncContainer", presence = "mandatory" },
+      { name = "RabToSetupPerCnDomainList", type = "RabToSetupPerCnDomainList", presence = "optional" },
+      { name = "IntProtInfo", type = "IntProtInfo", presence = "optional" },
+    } },
+    { name = "HandoverFailure", id = 29, term = "AP to AC: the target cannot take the UE over", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "HandoverFailureCause", type = "HandoverFailureCause", presence = "mandatory" },
+    } },
+    { name = "HandoverDetect", id = 30, term = "AP to AC: the target has detected the UE", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+    } },
+    { name = "HandoverComplete", id = 31, term = "AP to AC: the UE has arrived at the target", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+    } },
+    { name = "HandoverCancelInd", id = 32, term = "AC to AP: the handover is cancelled", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+    } },
+    { name = "HandoverReqAck", id = 33, term = "AP to AC: the target has allocated resources for the UE", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "RrcContainer", type = "RrcContainer", presence = "mandatory" },
+      { name = "IntProtAlgo", type = "IntProtAlgo", presence = "optional" },
+      { name = "ResourceInfoPerCnDomainListAck", type = "ResourceInfoPerCnDomainListAck", presence = "optional" },
+    } },
+    { name = "UserPlaneModifyRequest", id = 35, term = "Asks for a user plane to be modified", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "AcUserPlaneAssociation", type = "AcUserPlaneAssociation", presence = "mandatory" },
+      { name = "ApUserPlaneAssociation", type = "ApUserPlaneAssociation", presence = "mandatory" },
+      { name = "MaxBitRateUplink", type = "MaxBitRateUplink", presence = "optional" },
+      { name = "MaxBitRateDownlink", type = "MaxBitRateDownlink", presence = "optional" },
+    } },
+    { name = "UserPlaneModifyResponse", id = 36, term = "Tells how a user plane was modified", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "ApUserPlaneAssociation", type = "ApUserPlaneAssociation", presence = "mandatory" },
+      { name = "UserPlaneResult", type = "UserPlaneResult", presence = "mandatory" },
+    } },
+    { name = "RabReleaseRequired", id = 37, term = "Tells that RABs must be released", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "CnDomainId", type = "CnDomainId", presence = "mandatory" },
+      { name = "RabReleaseList", type = "RabReleaseList", presence = "mandatory" },
+    } },
+    { name = "AccessControlRequest", id = 38, term = "AP to AC: asks whether a subscriber may use the access point", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "LAC", type = "LAC", presence = "mandatory" },
+      { name = "Imsi", type = "Imsi", presence = "mandatory" },
+    } },
+    { name = "AccessControlResponse", id = 39, term = "AC to AP: answers an access control request", rule = "none", slots = {
+      { name = "Srnti", type = "Srnti", presence = "mandatory" },
+      { name = "AcUeId", type = "AcUeId", presence = "mandatory" },
+      { name = "Imsi", type = "Imsi", presence = "mandatory" },
+      { name = "LacMatch", type = "LacMatch", presence = "mandatory" },
+    } },
+  },
+  conditions = {
+    interRatRelocation = { type = "RelocationType", values = { [0] = true }, inside = true, meaning = "RelocationType is 0 (inter-RAT)" },
+    intraRatRelocation = { type = "RelocationType", values = { [1] = true }, inside = true, meaning = "RelocationType is 1 (intra-RAT)" },
+    reset3GapNotPresent = { type = "Reset3GAP", values = { [1] = true }, inside = false, meaning = "Reset3GAP is anything but 1" },
+    userPlaneSuccessful = { type = "UserPlaneResult", values = { [0] = true }, inside = true, meaning = "UserPlaneResult is 0 (success)" },
+    interactive = { type = "TrafficClass", values = { [3] = true }, inside = true, meaning = "TrafficClass is 3 (interactive)" },
+    realTime = { type = "TrafficClass", values = { [0] = true, [2] = true }, inside = true, meaning = "TrafficClass is 0 or 2 (real-time)" },
+  },
+}
+
+-- ---- The reading part --------------------------------------------------------------------------
+--
+-- Plain Lua, for 5.2 and later: it knows rows and no names, and nothing of Wireshark. It reads the
+-- bytes of one message as the library does, IE by IE, and tells what they hold, where and why they
+-- stop, and what was let pass.
+
+local byte = string.byte
+
+local tagSize, headerSize = 2, 6
+
+-- ---- Rows, linked ------------------------------------------------------------------------------
+
+local typesByName, typesByTag, messagesById = {}, {}, {}
+
+local function link_slots(owner)
+  for _, slot in ipairs(owner.slots) do
+    slot.type = typesByName[slot.type]
+    slot.condition = slot.condition and rows.conditions[slot.condition]
+    slot.isMandatory = slot.presence == "mandatory"
+  end
+end
+
+local function link_type(type)
+  type.label = type.name .. " [" .. type.tag .. "]"
+  type.isComposite = type.shape == "sequence" or type.shape == "compositeList"
+  type.item = type.item and typesByName[type.item]
+  for i, member in ipairs(type.members or {}) do
+    type.members[i] = typesByName[member]
+  end
+  if type.slots then
+    link_slots(type)
+  end
+  if type.shape == "scalar" then -- of a code word only its width travels
+    type.greatest = math.min(type.greatest, 256 ^ type.width - 1)
+  end
+end
+
+for _, type in ipairs(rows.types) do
+  typesByName[type.name], typesByTag[type.tag] = type, type
+end
+for _, condition in pairs(rows.conditions) do
+  condition.type = typesByName[condition.type]
+end
+for _, type in ipairs(rows.types) do
+  link_type(type)
+end
+local messageIdType = typesByName.MessageId
+for _, message in ipairs(rows.messages) do
+  link_slots(message)
+  messagesById[message.id] = message
+end
+
+-- ---- Words -------------------------------------------------------------------------------------
+
+local reasons = {
+  missingAtEnd = "missing: the bytes end before {ie}",
+  missingInRecord = "missing: the length of {ie} is used up after {taken}",
+  missingCalledFor = "missing: it is required where {condition}",
+  otherThanCalledFor = "missing: it is required where {condition}; found {found}",
+  uncalled = "not allowed here: it stands only where {condition}",
+  otherTag = "expected {ie}, found {found}",
+  truncatedHeader = "truncated header: tag and length take 6 bytes, but only {left}",
+  wrongWidth = "its length field says {declared}, where {name} takes exactly {width}",
+  tooFewLeft = "its length field says {declared}, but only {left}",
+  beyondCapacity = "its length field says {declared}, more than the {capacity} bytes that {name} can hold",
+  oneItemTooMany = "one more than the {count} items that {name} can hold",
+  below = "{number} is below {least}",
+  above = "{number} is above {greatest}",
+  wrongCount = "{count}, where {range} are allowed",
+  endsInList = "its length field says {declared}, but the bytes end after {taken}",
+  passesEnd = "passes the end of {list}, whose length field says {declared}",
+  unknownMessage = "no message has the id {id}",
+  otherLength = "its length field says {declared}, but the {parts} read take {taken}",
+  ignored = "{count} ignored",
+  ignoredFrom = "{count} ignored, from {found} on",
+  ignoredForeign = "{count} ignored, from {found} on, which is no IE of {message}",
+  ignoredOrder = "{count} ignored, from {found} on, which stands twice or out of order",
+}
+
+local function number_text(number)
+  return string.format("%d", number)
+end
+
+local function counted(count, thing)
+  return number_text(count) .. " " .. thing .. (count == 1 and "" or "s")
+end
+
+local function label_of_tag(tag)
+  local type = typesByTag[tag]
+  return type and type.label or "unknown tag " .. tag
+end
+
+local function remaining(text, left)
+  return text .. (left == 1 and " remains" or " remain")
+end
+
+local function range_text(type)
+  if type.least == type.greatest then
+    return "exactly " .. number_text(type.least)
+  end
+  return number_text(type.least) .. " to " .. number_text(type.greatest)
+end
+
+local function path_of(node)
+  if not node.parent then
+    return "" -- the message itself
+  end
+  local path = path_of(node.parent)
+  if node.index then
+    return path .. "[" .. node.index .. "]"
+  end
+  return path == "" and node.name or path .. "." .. node.name
+end
+
+-- Something found: at a byte, in an IE, for a reason, in words.
+local function finding(node, at, reason, values)
+  local what = reasons[reason]:gsub("{(%w+)}", values)
+  return { at = at, path = path_of(node), reason = reason, what = what }
+end
+
+local function words(found)
+  local width = found.at <= 0xFF and 2 or found.at <= 0xFFFF and 4 or 8
+  local place = string.format("byte %d (0x%0" .. width .. "x)", found.at, found.at)
+  if found.path ~= "" then
+    place = place .. ", " .. found.path
+  end
+  return place .. ": " .. found.what
+end
+
+-- ---- Values ------------------------------------------------------------------------------------
+--
+-- A node is an IE or nested TLV: its row, its name and place in its parent, the byte at which its
+-- header begins, its size, and its parts as an array. A walk is the bytes and a position in them.
+
+local function new_node(parent, type, name, index)
+  return { parent = parent, type = type, name = name, index = index }
+end
+
+-- The tag at the position, 0 if there is not enough for one.
+local function tag_at(walk)
+  local high, low = byte(walk.bytes, walk.at + 1, walk.at + tagSize)
+  return low and high * 256 + low or 0
+end
+
+local function number_at(bytes, at, width)
+  local a, b, c, d = byte(bytes, at + 1, at + width)
+  if width == 1 then
+    return a
+  end
+  return width == 2 and a * 256 + b or ((a * 256 + b) * 256 + c) * 256 + d
+end
+
+-- Reads the header of an IE or nested TLV and moves behind it.
+local function read_header(walk, node)
+  local at, left, type = walk.at, walk.length - walk.at, node.type
+  node.at = at
+  if left == 0 then
+    return finding(node, at, "missingAtEnd", { ie = type.label })
+  end
+  local tag = tag_at(walk)
+  if left >= tagSize and tag ~= type.tag then
+    return finding(node, at, "otherTag", { ie = type.label, found = label_of_tag(tag) })
+  end
+  if left < headerSize then
+    return finding(node, at, "truncatedHeader", { left = remaining(number_text(left), left) })
+  end
+  node.declared = number_at(walk.bytes, at + tagSize, headerSize - tagSize)
+  walk.at = at + headerSize
+end
+
+local function too_few_left(walk, node)
+  local left = walk.length - node.at - headerSize
+  return finding(node, node.at + tagSize, "tooFewLeft", {
+    declared = number_text(node.declared),
+    left = remaining(counted(left, "byte"), left),
+  })
+end
+
+-- Notes a length field that disagrees with what was read.
+local function note_length(walk, node)
+  local taken = walk.at - node.at - headerSize
+  if node.declared ~= taken then
+    local isList = node.type.item ~= nil
+    walk.notes[#walk.notes + 1] = finding(node, node.at + tagSize, "otherLength", {
+      declared = number_text(node.declared),
+      parts = isList and "items" or "parts",
+      taken = counted(taken, "byte"),
+    })
+  end
+end
+
+local readers = {}
+
+-- Reads a whole primitive IE or nested TLV, moving behind it on success.
+local function read_value(walk, node)
+  local fault = read_header(walk, node) or readers[node.type.shape](walk, node)
+  node.size = walk.at - node.at
+  return fault
+end
+
+function readers.scalar(walk, node)
+  local type, at = node.type, walk.at
+  if node.declared ~= type.width then
+    return finding(node, node.at + tagSize, "wrongWidth", {
+      declared = number_text(node.declared),
+      name = type.name,
+      width = counted(type.width, "byte"),
+    })
+  end
+  if node.declared > walk.length - at then
+    return too_few_left(walk, node)
+  end
+  node.number = number_at(walk.bytes, at, type.width)
+  walk.at = at + type.width
+end
+
+function readers.bytes(walk, node)
+  local type = node.type
+  if node.declared > walk.length - walk.at then
+    return too_few_left(walk, node)
+  end
+  if node.declared > type.capacity then
+    return finding(node, node.at + tagSize, "beyondCapacity", {
+      declared = number_text(node.declared),
+      capacity = type.capacity,
+      name = type.name,
+    })
+  end
+  node.count = node.declared
+  walk.at = walk.at + node.declared
+end
+
+-- Members are bounded by the bytes that remain and not by the record, but each must begin before
+-- the record's length is used up.
+function readers.record(walk, node)
+  local start = walk.at
+  if node.declared > walk.length - start then
+    return too_few_left(walk, node)
+  end
+  for i, type in ipairs(node.type.members) do
+    local member = new_node(node, type, type.name)
+    if walk.at - start >= node.declared then
+      return finding(member, walk.at, "missingInRecord", {
+        ie = node.type.label,
+        taken = counted(walk.at - start, "byte"),
+      })
+    end
+    local fault = read_value(walk, member)
+    if fault then
+      return fault
+    end
+    node[i] = member
+  end
+  note_length(walk, node)
+end
+
+function readers.list(walk, node)
+  local start, type = walk.at, node.type
+  if node.declared > walk.length - start then
+    return too_few_left(walk, node)
+  end
+  node.count = 0
+  while walk.at - start < node.declared do
+    local item = new_node(node, type.item, type.item.name, node.count)
+    if node.count == type.capacity then
+      return finding(item, walk.at, "oneItemTooMany", { count = node.count, name = type.name })
+    end
+    local fault = read_value(walk, item)
+    if fault then
+      return fault
+    end
+    node.count = node.count + 1
+    node[node.count] = item
+  end
+  note_length(walk, node)
+end
+
+-- ---- Ranges ------------------------------------------------------------------------------------
+
+local function count_fault(node, at, unit)
+  local type = node.type
+  if node.count < type.least or node.count > type.greatest then
+    return finding(node, at, "wrongCount", {
+      count = counted(node.count, unit),
+      range = range_text(type),
+    })
+  end
+end
+
+local function number_fault(node)
+  local type, number, at = node.type, node.number, node.at + headerSize
+  if number < type.least then
+    return finding(node, at, "below", { number = number, least = number_text(type.least) })
+  end
+  if number > type.greatest then
+    return finding(node, at, "above", { number = number, greatest = number_text(type.greatest) })
+  end
+end
+
+-- What makes a value invalid that was read, if anything does.
+local function find_invalid(node)
+  local shape, fault = node.type.shape, nil
+  if shape == "scalar" then
+    return number_fault(node)
+  elseif shape == "bytes" then
+    return count_fault(node, node.at + headerSize, "byte")
+  elseif shape == "list" then
+    fault = count_fault(node, node.at + headerSize, "item")
+  end
+  for i = 1, fault and 0 or #node do
+    fault = fault or find_invalid(node[i])
+  end
+  return fault
+end
+
+-- ---- Slots of a sequence composite or a message ------------------------------------------------
+
+local function is_called_for(owner, slot)
+  local condition = slot.condition
+  if not condition then
+    return true
+  end
+  for _, child in ipairs(owner) do
+    if child.type == condition.type then
+      return (condition.values[child.number] or false) == condition.inside
+    end
+  end
+  return false
+end
+
+-- The first conditional slot that is not filled although it is called for. The walk fills none
+-- that is not.
+local function unmet_condition(owner, slots)
+  for _, slot in ipairs(slots) do
+    if slot.condition and not owner.filled[slot] and is_called_for(owner, slot) then
+      return slot
+    end
+  end
+end
+
+local function needed(owner, slot, at)
+  local values = { condition = slot.condition.meaning }
+  return finding(new_node(owner, slot.type, slot.name), at, "missingCalledFor", values)
+end
+
+local read_slots, read_elements
+
+-- Each reader of a child tells what became of it: `absent` (another tag, or bytes that do not
+-- decode), `invalid` (decoded, out of its range or rules) or `valid`; and why it is not valid.
+local function read_composite(walk, node)
+  local type = node.type
+  local fault = read_header(walk, node)
+  if fault then
+    return "absent", fault
+  end
+  node.isComposite = true
+  node.filled = {}
+  fault = (type.slots and read_slots or read_elements)(walk, node, type)
+  node.size = walk.at - node.at
+  if fault then
+    return "absent", fault
+  end
+  note_length(walk, node)
+  local unmet = type.slots and unmet_condition(node, type.slots)
+  if unmet then
+    return "invalid", needed(node, unmet, walk.at)
+  end
+  fault = type.item and count_fault(node, node.at, "element")
+  return fault and "invalid" or "valid", fault
+end
+
+local function read_child(walk, node)
+  if node.type.isComposite then
+    return read_composite(walk, node)
+  end
+  local fault = read_value(walk, node)
+  if fault then
+    return "absent", fault
+  end
+  fault = find_invalid(node)
+  return fault and "invalid" or "valid", fault
+end
+
+local function leave_out(walk, slot, fault)
+  walk.leftOut[#walk.leftOut + 1] = { at = walk.at, name = slot.name, why = fault }
+end
+
+-- Whether a child that is not taken refuses its owner, and why.
+local function refusal(walk, owner, row, slot, node, outcome, fault)
+  if slot.isMandatory then
+    return fault
+  end
+  local stoodThere = tag_at(walk) == slot.type.tag
+  if outcome == "valid" then
+    fault = finding(node, walk.at, "uncalled", { condition = slot.condition.meaning })
+  end
+  if slot.condition then
+    local calledFor = is_called_for(owner, slot)
+    if outcome == "absent" and calledFor and not stoodThere then
+      fault = finding(node, fault.at, "otherThanCalledFor", {
+        condition = slot.condition.meaning,
+        found = label_of_tag(tag_at(walk)),
+      })
+    end
+    local refuses = calledFor
+    if outcome ~= "absent" then
+      refuses = row.rule == "refuseUncalled"
+    end
+    if refuses then
+      return fault
+    end
+  end
+  if stoodThere then
+    leave_out(walk, slot, fault)
+  end
+end
+
+-- Goes back to where a child began that is not taken; what was noted in it does not count.
+local function go_back(walk, at, noteCount)
+  walk.at = at
+  for i = #walk.notes, noteCount + 1, -1 do
+    walk.notes[i] = nil
+  end
+end
+
+-- Tries the child of one slot at the current position and moves behind it if it is taken. Returns
+-- why the owner is refused, if it is.
+local function read_slot(walk, owner, row, slot)
+  if not slot.isMandatory and not slot.condition and tag_at(walk) ~= slot.type.tag then
+    return nil
+  end
+  local start, noteCount = walk.at, #walk.notes
+  local node = new_node(owner, slot.type, slot.name)
+  local outcome, fault = read_child(walk, node)
+  if outcome == "valid" and is_called_for(owner, slot) then
+    owner[#owner + 1] = node
+    owner.filled[slot] = true
+    return nil
+  end
+  go_back(walk, start, noteCount)
+  fault = refusal(walk, owner, row, slot, node, outcome, fault)
+  if fault and node.isComposite then
+    owner[#owner + 1] = node -- shows how far it went
+  end
+  return fault
+end
+
+-- The bytes have ended before slot `next`.
+local function end_of_bytes(walk, owner, row, next)
+  for i = next, #row.slots do
+    local slot = row.slots[i]
+    if slot.isMandatory then
+      local missing = new_node(owner, slot.type, slot.name)
+      return finding(missing, walk.at, "missingAtEnd", { ie = slot.type.label })
+    end
+    local mayRefuse = slot.condition and row.rule == "dropUncalledRequireAtEnd"
+    if mayRefuse and is_called_for(owner, slot) then
+      return needed(owner, slot, walk.at)
+    end
+  end
+end
+
+function read_slots(walk, owner, row)
+  for i, slot in ipairs(row.slots) do
+    if walk.at == walk.length then
+      return end_of_bytes(walk, owner, row, i)
+    end
+    local fault = read_slot(walk, owner, row, slot)
+    if fault then
+      return fault
+    end
+  end
+end
+
+-- A list's length is what its elements may take together; each is bounded by the bytes that remain.
+function read_elements(walk, list, type)
+  local start = walk.at
+  list.count = 0
+  while walk.at - start < list.declared do
+    if walk.at == walk.length then
+      return finding(list, start - headerSize + tagSize, "endsInList", {
+        declared = number_text(list.declared),
+        taken = number_text(walk.at - start),
+      })
+    end
+    local at, noteCount = walk.at, #walk.notes
+    local element = new_node(list, type.item, type.item.name, list.count)
+    local outcome, fault = read_composite(walk, element)
+    if element.isComposite then
+      list[#list + 1] = element
+    end
+    if outcome ~= "valid" then
+      go_back(walk, at, noteCount)
+      return fault
+    end
+    list.count = list.count + 1
+    if walk.at - start > list.declared then
+      return finding(element, walk.at, "passesEnd", {
+        list = path_of(list),
+        declared = number_text(list.declared),
+      })
+    end
+  end
+end
+
+-- ---- The message -------------------------------------------------------------------------------
+
+-- Adds what was left out at the position where the walk stopped, and what, inside that, was left
+-- out where it stopped in its turn.
+local function add_left_out(walk, stop, findings)
+  for i = #walk.leftOut, 1, -1 do
+    local left = walk.leftOut[i]
+    if left.at == stop then
+      left.why.what = left.why.what .. ", so " .. left.name .. " was left out"
+      findings[#findings + 1] = left.why
+      stop = left.why.at
+    end
+  end
+end
+
+local function belongs(message, tag)
+  for _, slot in ipairs(message.slots) do
+    if slot.type.tag == tag then
+      return true
+    end
+  end
+  return tag == messageIdType.tag
+end
+
+-- Bytes behind the last IE that the message takes are ignored. Tells what they are.
+local function explain_rest(walk, root, message)
+  local left = walk.length - walk.at
+  if left == 0 then
+    return
+  end
+  local reason, tag = "ignored", tag_at(walk)
+  local last = walk.leftOut[#walk.leftOut]
+  if left >= headerSize then
+    reason = "ignoredFrom"
+    if not belongs(message, tag) then
+      reason = "ignoredForeign"
+    elseif not last or last.at ~= walk.at then
+      reason = "ignoredOrder"
+    end
+  end
+  walk.notes[#walk.notes + 1] = finding(root, walk.at, reason, {
+    count = counted(left, "byte"),
+    found = label_of_tag(tag),
+    message = message.name,
+  })
+  add_left_out(walk, walk.at, walk.notes)
+end
+
+local function read_message_id(walk, root)
+  local node = new_node(root, messageIdType, messageIdType.name)
+  local fault = read_value(walk, node)
+  if fault then
+    return nil, fault
+  end
+  root[1] = node
+  local message = messagesById[node.number]
+  return message, not message and finding(node, headerSize, "unknownMessage", { id = node.number })
+end
+
+-- Reads the bytes of one message, a string. The result: the message's row if it is known, the IEs
+-- read as nodes below `root`, the verdict (`valid`, `invalid` or `refused`), the faults that it
+-- rests on, notes on what was let pass, and how many bytes were taken.
+local function read_message(bytes)
+  local walk = { bytes = bytes, length = #bytes, at = 0, notes = {}, leftOut = {} }
+  local root = { filled = {} }
+  local result = { root = root, faults = {}, notes = walk.notes, taken = 0, verdict = "refused" }
+  local message, fault = read_message_id(walk, root)
+  result.message = message
+  fault = fault or read_slots(walk, root, message)
+  if fault then
+    result.faults[1] = fault
+    add_left_out(walk, fault.at, result.faults)
+    return result
+  end
+  local unmet = unmet_condition(root, message.slots)
+  result.faults[1] = unmet and needed(root, unmet, walk.at)
+  result.verdict = unmet and "invalid" or "valid"
+  explain_rest(walk, root, message)
+  result.taken = walk.at
+  return result
+end
+
+local engine = {
+  rows = rows,
+  read_message = read_message,
+  words = words,
+  path_of = path_of,
+  messagesById = messagesById,
+  headerSize = headerSize,
+}
+
+if not Proto then
+  return engine -- Wireshark is not here
+end
+
