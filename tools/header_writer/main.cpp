@@ -53,6 +53,7 @@ std::vector<File> allFiles(const std::filesystem::path &root) {
         functions.insert(functions.end(), page.functions().begin(), page.functions().end());
     }
     files.push_back({"cmake/exports.txt", exportList(functions)});
+    files.push_back({"include/tarn.hpp", header_writer::cppHeader(catalogue)});
     files.push_back({"docs/reference.md", header_writer::referenceTables(catalogue)});
     // The plugin is one file, since Wireshark loads each of its plugins by itself.
     files.push_back({"wireshark/tarn.lua", header_writer::luaRows(catalogue) +

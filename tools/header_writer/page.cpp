@@ -189,11 +189,15 @@ void Page::function(const std::string &result, const std::string &name,
     functions_.push_back(name);
 }
 
-void Page::beginHeader(const std::string &guard, std::string_view prose,
-                       const std::vector<std::string> &includes) {
+void Page::notice() {
     comment("Written by header_writer from the rows in src/catalogue; do not edit: change the rows "
             "or tools/header_writer, then run `cmake --build build --target headers`.");
     line();
+}
+
+void Page::beginHeader(const std::string &guard, std::string_view prose,
+                       const std::vector<std::string> &includes) {
+    notice();
     comment(prose);
     line("#ifndef " + guard);
     line("#define " + guard);

@@ -47,6 +47,9 @@ public:
     void function(const std::string &result, const std::string &name,
                   const std::vector<std::string> &parameters, std::string_view does);
 
+    // Says that the file is written and by what.
+    void notice();
+
     // What stands at the head and at the foot of every header. The head leaves the page ready for
     // declarations.
     void beginHeader(const std::string &guard, std::string_view prose,

@@ -12,6 +12,7 @@ Page objectsHeader();
 Page primitiveHeader(const Catalogue &catalogue);
 Page compositeHeader(const Catalogue &catalogue);
 Page messageHeader(const Catalogue &catalogue);
+std::string cppHeader(const Catalogue &catalogue);
 std::string referenceTables(const Catalogue &catalogue);
 // The rows as a table in Lua.
 std::string luaRows(const Catalogue &catalogue);
