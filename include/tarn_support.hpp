@@ -375,10 +375,17 @@ protected:
     template <class Value, class C>
     [[gnu::always_inline]] std::optional<Value> extract(std::uint32_t (*call)(Object *,
                                                                               C *)) const {
-        std::optional<Value> value(std::in_place);
-        if (handle_ == nullptr || call(handle_, detail::as_c<C>(&*value)) == 0)
-            value.reset();
-        return value;
+        if constexpr (std::is_integral_v<Value>) {
+            Value number = 0;
+            if (handle_ == nullptr || call(handle_, &number) == 0)
+                return std::nullopt;
+            return number;
+        } else {
+            std::optional<Value> value(std::in_place); /* filled in place: it may be large */
+            if (handle_ == nullptr || call(handle_, detail::as_c<C>(&*value)) == 0)
+                value.reset();
+            return value;
+        }
     }
     template <class Ref, class C>
     [[gnu::always_inline]] std::optional<Ref> extract_ie(std::uint32_t (*call)(Object *,
