@@ -54,6 +54,8 @@ std::vector<File> allFiles(const std::filesystem::path &root) {
     }
     files.push_back({"cmake/exports.txt", exportList(functions)});
     files.push_back({"include/tarn.hpp", header_writer::cppHeader(catalogue)});
+    files.push_back({"python/tarn/_rows.py", header_writer::pythonRows(catalogue)});
+    files.push_back({"python/tarn/__init__.pyi", header_writer::pythonTypes(catalogue)});
     files.push_back({"docs/reference.md", header_writer::referenceTables(catalogue)});
     // The plugin is one file, since Wireshark loads each of its plugins by itself.
     files.push_back({"wireshark/tarn.lua", header_writer::luaRows(catalogue) +

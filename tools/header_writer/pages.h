@@ -13,6 +13,8 @@ Page primitiveHeader(const Catalogue &catalogue);
 Page compositeHeader(const Catalogue &catalogue);
 Page messageHeader(const Catalogue &catalogue);
 std::string cppHeader(const Catalogue &catalogue);
+std::string pythonRows(const Catalogue &catalogue);
+std::string pythonTypes(const Catalogue &catalogue);
 std::string referenceTables(const Catalogue &catalogue);
 // The rows as a table in Lua.
 std::string luaRows(const Catalogue &catalogue);
