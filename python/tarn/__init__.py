@@ -40,6 +40,9 @@ def _raise(explanation, offset_is_of_bytes):
         _library.free_explanation(explanation)
 
 
+_CAPTURE_KEYS = frozenset(("packet", "time", "from", "to", "verdict"))
+
+
 class Message(Mapping):
     """A message: its name, and its IEs by name, as the tool's JSON has them: numbers, byte strings as
     hex digits, an IpAddress as a dotted string, records and composites as mappings, lists as lists.
@@ -132,10 +135,11 @@ def _from_json(ies):
 
 
 def encode(values):
-    """The bytes of a Message, or of a mapping {"message": name, IEs...}; raises Refused."""
+    """The bytes of a Message, or of a mapping {"message": name, IEs...}; raises Refused. What the
+    tool's JSON lines say of a capture beside the message is passed over."""
     if isinstance(values, Message):
         return bytes(values)
-    ies = dict(values)
+    ies = {ie: value for ie, value in values.items() if ie not in _CAPTURE_KEYS}
     name = ies.pop("message", None)
     if name not in _rows.MESSAGES:
         raise Refused(unknown("there is no message", name, _rows.MESSAGES))

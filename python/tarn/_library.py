@@ -35,16 +35,18 @@ class _Report(ctypes.Structure):
 
 
 def _load(name, package):
-    """Loads a library of TARN_LIBRARY_PATH, or one that the system's loader finds. libtarn looks for
-    its host's functions among the symbols of all that is loaded globally, hence the order and mode."""
-    folder = os.environ.get("TARN_LIBRARY_PATH", "")
-    path = os.path.join(folder, name) if folder else name
+    """Loads a library from the folders of TARN_LIBRARY_PATH, or where the system's loader finds it.
+    libtarn looks for its host's functions among the symbols of all that is loaded globally, hence
+    the order below and the mode."""
+    folders = os.environ.get("TARN_LIBRARY_PATH", "").split(os.pathsep)
+    paths = [os.path.join(folder, name) for folder in folders if folder]
+    path = next(filter(os.path.exists, paths), name)
     try:
         return ctypes.CDLL(path, mode=ctypes.RTLD_GLOBAL)
     except OSError as error:
         raise ImportError(
-            f"{name} cannot be loaded: {error}. Install the package {package}, or set"
-            " TARN_LIBRARY_PATH to the folder that holds the three tarn libraries."
+            f"{name} cannot be loaded: {error}. Install the package {package}, or name the folders"
+            " that hold the three tarn libraries in TARN_LIBRARY_PATH."
         ) from error
 
 
