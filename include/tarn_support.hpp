@@ -341,9 +341,9 @@ template <class M>
 using CRecordOf = typename M::CRecord;
 
 /* Written from the rows, in tarn.hpp. */
-inline const char *name_of(std::uint32_t id);
-inline bool is_valid(std::uint32_t id, const TarnMsg *msg);
-inline bool pack(std::uint32_t id, const TarnMsg *msg, Room room);
+const char *name_of(std::uint32_t id);
+bool is_valid(std::uint32_t id, const TarnMsg *msg);
+bool pack(std::uint32_t id, const TarnMsg *msg, Room room);
 template <class Use>
 Error with_record(std::uint32_t id, Use &&use);
 
@@ -454,12 +454,30 @@ using Message = Owned<MessageRef>;
 
 namespace detail {
 
+#ifdef TARN_WITH_INFO
+[[gnu::cold]] inline Error why(Status status, const TarnInfoExplanation *explanation) {
+    Error error(status);
+    if (explanation != nullptr && explanation->faultCount != 0) {
+        const TarnInfoFinding &fault = explanation->faults[0];
+        error.explain(fault.offset, fault.path, fault.sentence);
+    }
+    tarnInfoFreeExplanation(explanation);
+    return error;
+}
+[[gnu::cold]] inline Error why_bytes(Status status, ByteView bytes) {
+    return why(status, tarnInfoExplainBytes(bytes.data(), size32(bytes.size())));
+}
+[[gnu::cold]] inline Error why_record(Status status, std::uint32_t id, const void *record) {
+    return why(status, tarnInfoExplainRecord(id, record, UINT32_MAX));
+}
+#else
 inline Error why_bytes(Status status, ByteView) {
     return Error(status);
 }
 inline Error why_record(Status status, std::uint32_t, const void *) {
     return Error(status);
 }
+#endif
 
 } // namespace detail
 
