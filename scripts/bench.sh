@@ -5,8 +5,10 @@
 #   scripts/bench.sh                   all of it
 #   scripts/bench.sh profile NAME      where an operation's instructions go, by function, e.g.
 #                                      "RabAssignmentRequest/decode/objects"
+#   scripts/bench.sh cpp               tarn.hpp beside the C calls that it stands for
 set -eu
 cd "$(dirname "$0")/.."
+[ "${1:-}" != cpp ] || exec scripts/bench_cpp.sh
 build=${TARN_BENCH_BUILD:-build/bench}
 
 mkdir -p build
