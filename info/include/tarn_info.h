@@ -364,7 +364,8 @@ typedef struct TarnInfoPart {
     const TarnInfoType *type;
     uint32_t offset;      /* of its header */
     uint32_t depth;       /* 0 for the message's own IEs */
-    uint32_t index;       /* in a list or of a repeated slot, from 0; else TarnInfoNoIndex */
+    uint32_t index;       /* in a list, from 0; of a repeated IE from its second on, which has 1; */
+                          /* else TarnInfoNoIndex */
     const uint8_t *value; /* behind the header */
     uint32_t length;      /* of the value; for composites, records and lists as declared */
     uint32_t number;      /* of a number: its value */
