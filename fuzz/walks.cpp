@@ -12,18 +12,6 @@ using protocol::Type;
 constexpr std::size_t tagSize = 2;
 constexpr std::size_t headerSize = 6;
 
-const Type *type_of(std::uint32_t tag) {
-    constexpr std::size_t tags = 178; // 0 to 177
-    static const std::array<const Type *, tags> all = [] {
-        std::array<const Type *, tags> made{};
-        for (const Type *type : protocol::types())
-            if (type->tag != 0)
-                made.at(type->tag) = type;
-        return made;
-    }();
-    return tag < tags ? all[tag] : nullptr;
-}
-
 std::uint32_t load(const std::uint8_t *bytes, std::size_t width) {
     std::uint32_t number = 0;
     for (std::size_t i = 0; i < width; ++i)
@@ -65,6 +53,18 @@ bool is_same_run(const std::uint8_t *packed, const std::uint8_t *bytes, std::siz
 }
 
 } // namespace
+
+const Type *type_of(std::uint32_t tag) {
+    constexpr std::size_t tags = 178; // 0 to 177
+    static const std::array<const Type *, tags> all = [] {
+        std::array<const Type *, tags> made{};
+        for (const Type *type : protocol::types())
+            if (type->tag != 0)
+                made.at(type->tag) = type;
+        return made;
+    }();
+    return tag < tags ? all[tag] : nullptr;
+}
 
 std::vector<TarnIe *> members_of(const VelDllHead *list) {
     std::vector<TarnIe *> all;

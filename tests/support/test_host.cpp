@@ -23,11 +23,17 @@ struct State {
     std::size_t unsetLinks = 0;
     std::size_t listCalls = 0;
     test_host::OnFatal onFatal = test_host::OnFatal::returns;
+    test_host::Watch watch = nullptr;
 };
 
 State &state() {
     static State all;
     return all;
+}
+
+void seen(const char *service, const char *module) {
+    if (state().watch != nullptr)
+        state().watch(service, module);
 }
 
 [[noreturn]] void fail(const char *what, const char *module, std::uint32_t line) {
@@ -52,6 +58,7 @@ bool value_is_unset(void *node) {
 } // namespace
 
 uint32_t velAllocMemoryWithIds(uint32_t size, void **block, const char *module, uint32_t line) {
+    seen(__func__, module);
     if (block == nullptr || *block != nullptr)
         fail("the variable for a new block is not null", module, line);
     auto *start = static_cast<unsigned char *>(std::malloc(size + 2 * guardSize));
@@ -65,6 +72,7 @@ uint32_t velAllocMemoryWithIds(uint32_t size, void **block, const char *module, 
 }
 
 uint32_t velFreeMemoryWithIds(void **block, const char *module, uint32_t line) {
+    seen(__func__, module);
     const auto found = state().blocks.find(*block);
     if (found == state().blocks.end())
         fail("a foreign block, or one released before, is released", module, line);
@@ -79,16 +87,19 @@ uint32_t velFreeMemoryWithIds(void **block, const char *module, uint32_t line) {
 }
 
 void xVelDllInitHead(VelDllHead *head, uint32_t reserved, const char *module, uint32_t line) {
+    seen(__func__, module);
     if (reserved != 0)
         fail("the reserved argument of a list is not 0", module, line);
     *head = VelDllHead{nullptr, nullptr};
 }
 
-void xVelDllInitNode(VelDllNode *node, const char *, uint32_t) {
+void xVelDllInitNode(VelDllNode *node, const char *module, uint32_t) {
+    seen(__func__, module);
     *node = VelDllNode{nullptr, nullptr};
 }
 
 void xVelDllAddToTail(VelDllHead *head, VelDllNode *node, const char *module, uint32_t line) {
+    seen(__func__, module);
     if (node->next != nullptr || node->previous != nullptr || head->first == node)
         fail("a node is linked that is in a list already", module, line);
     state().unsetLinks += value_is_unset(node) ? 1 : 0;
@@ -97,24 +108,29 @@ void xVelDllAddToTail(VelDllHead *head, VelDllNode *node, const char *module, ui
     head->last = node;
 }
 
-VelDllNode *xVelDllGetHead(const VelDllHead *head, const char *, uint32_t) {
+VelDllNode *xVelDllGetHead(const VelDllHead *head, const char *module, uint32_t) {
+    seen(__func__, module);
     ++state().listCalls;
     return head->first;
 }
 
-VelDllNode *xVelDllGetNext(const VelDllHead *, const VelDllNode *current, const char *, uint32_t) {
+VelDllNode *xVelDllGetNext(const VelDllHead *, const VelDllNode *current, const char *module,
+                           uint32_t) {
+    seen(__func__, module);
     ++state().listCalls;
     return current->next;
 }
 
-void xVelDllRemoveNode(VelDllHead *head, VelDllNode *node, const char *, uint32_t) {
+void xVelDllRemoveNode(VelDllHead *head, VelDllNode *node, const char *module, uint32_t) {
+    seen(__func__, module);
     (node->previous != nullptr ? node->previous->next : head->first) = node->next;
     (node->next != nullptr ? node->next->previous : head->last) = node->previous;
     *node = VelDllNode{nullptr, nullptr};
 }
 
 VelDllNode *xVelDllFindNode(const VelDllHead *head, VelDllComparison compare, const void *key,
-                            const char *, uint32_t) {
+                            const char *module, uint32_t) {
+    seen(__func__, module);
     ++state().listCalls;
     for (VelDllNode *node = head->first; node != nullptr; node = node->next)
         if (compare(node, key) != 0)
@@ -143,6 +159,10 @@ void reset() {
     state().unsetLinks = 0;
     state().listCalls = 0;
     state().onFatal = OnFatal::returns;
+}
+
+void set_watch(Watch watch) {
+    state().watch = watch;
 }
 
 void set_on_fatal(OnFatal reaction) {

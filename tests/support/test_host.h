@@ -33,6 +33,10 @@ enum class OnFatal {
 void reset();
 void set_on_fatal(OnFatal reaction);
 
+// Is told of each call for memory or lists, from now on and also after a reset; null for nobody.
+using Watch = void (*)(const char *service, const char *module);
+void set_watch(Watch watch);
+
 const std::vector<FatalReport> &fatal_reports();
 const std::vector<DebugToken> &debug_tokens();
 
