@@ -7,7 +7,8 @@
  * byte: the message's id).
  *
  * TarnNewMMsg returns a new message object that holds its MessageId, so that there is no need to
- * call TarnAppendMessageIdToMMsg. The caller owns it, until TarnDeleteMsg.
+ * call TarnAppendMessageIdToMMsg, which takes the id by value. The caller owns it, until
+ * TarnDeleteMsg.
  *
  * TarnAppendPToMMsg appends a primitive IE: a new IE object of the library's with a copy of *value.
  * It fails if the value is invalid, and then changes nothing. TarnAppendSIeToMMsg appends a
@@ -28,8 +29,8 @@
  *
  * TarnPackMMsg writes all IEs of the message to buffer in list order; TarnSizeOfMsg tells how many
  * bytes that takes. It applies none of the rules of presence and order, but fails if an IE is none
- * of M's or does not pack. A size that is too small is fatal. What a buffer holds after a failure
- * means nothing.
+ * of M's or does not pack; what the buffer holds then means nothing. A size that is too small is
+ * fatal and leaves the buffer as it was.
  *
  * TarnUnpackMMsg returns a new message object, read from buffer, that the caller owns until
  * TarnDeleteMsg, or null. IEs are taken in the order of the table, and each must be valid. A
@@ -134,9 +135,8 @@ typedef struct TarnUeContextRequestRecord {
  * caller. */
 TarnMsg *TarnNewUeContextRequestMsg(void);
 
-/* TarnAppendMessageIdToUeContextRequestMsg appends a further copy of *value, returning 1 on success
- * and 0 if invalid. */
-uint32_t TarnAppendMessageIdToUeContextRequestMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToUeContextRequestMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToUeContextRequestMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromUeContextRequestMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -199,9 +199,8 @@ typedef struct TarnUeContextAcceptRecord {
 /* TarnNewUeContextAcceptMsg returns a new message that holds its MessageId, owned by the caller. */
 TarnMsg *TarnNewUeContextAcceptMsg(void);
 
-/* TarnAppendMessageIdToUeContextAcceptMsg appends a further copy of *value, returning 1 on success
- * and 0 if invalid. */
-uint32_t TarnAppendMessageIdToUeContextAcceptMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToUeContextAcceptMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToUeContextAcceptMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromUeContextAcceptMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -263,9 +262,8 @@ typedef struct TarnUeContextRejectRecord {
 /* TarnNewUeContextRejectMsg returns a new message that holds its MessageId, owned by the caller. */
 TarnMsg *TarnNewUeContextRejectMsg(void);
 
-/* TarnAppendMessageIdToUeContextRejectMsg appends a further copy of *value, returning 1 on success
- * and 0 if invalid. */
-uint32_t TarnAppendMessageIdToUeContextRejectMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToUeContextRejectMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToUeContextRejectMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromUeContextRejectMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -334,9 +332,8 @@ enum { TarnUeContextReleaseHasRabDataInfoList = 0x80 };
  * caller. */
 TarnMsg *TarnNewUeContextReleaseMsg(void);
 
-/* TarnAppendMessageIdToUeContextReleaseMsg appends a further copy of *value, returning 1 on success
- * and 0 if invalid. */
-uint32_t TarnAppendMessageIdToUeContextReleaseMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToUeContextReleaseMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToUeContextReleaseMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromUeContextReleaseMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -429,9 +426,8 @@ enum {
  * caller. */
 TarnMsg *TarnNewInitDirectTransferMsg(void);
 
-/* TarnAppendMessageIdToInitDirectTransferMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToInitDirectTransferMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToInitDirectTransferMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToInitDirectTransferMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromInitDirectTransferMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -531,9 +527,8 @@ typedef struct TarnUlDirectTransferRecord {
  * caller. */
 TarnMsg *TarnNewUlDirectTransferMsg(void);
 
-/* TarnAppendMessageIdToUlDirectTransferMsg appends a further copy of *value, returning 1 on success
- * and 0 if invalid. */
-uint32_t TarnAppendMessageIdToUlDirectTransferMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToUlDirectTransferMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToUlDirectTransferMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromUlDirectTransferMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -618,9 +613,8 @@ typedef struct TarnDlDirectTransferRecord {
  * caller. */
 TarnMsg *TarnNewDlDirectTransferMsg(void);
 
-/* TarnAppendMessageIdToDlDirectTransferMsg appends a further copy of *value, returning 1 on success
- * and 0 if invalid. */
-uint32_t TarnAppendMessageIdToDlDirectTransferMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToDlDirectTransferMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToDlDirectTransferMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromDlDirectTransferMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -711,9 +705,8 @@ typedef struct TarnIuReleaseRequestRecord {
  * caller. */
 TarnMsg *TarnNewIuReleaseRequestMsg(void);
 
-/* TarnAppendMessageIdToIuReleaseRequestMsg appends a further copy of *value, returning 1 on success
- * and 0 if invalid. */
-uint32_t TarnAppendMessageIdToIuReleaseRequestMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToIuReleaseRequestMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToIuReleaseRequestMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromIuReleaseRequestMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -802,9 +795,8 @@ enum { TarnIuReleaseCommandHasIuRelCauseNew = 0x80 };
  * caller. */
 TarnMsg *TarnNewIuReleaseCommandMsg(void);
 
-/* TarnAppendMessageIdToIuReleaseCommandMsg appends a further copy of *value, returning 1 on success
- * and 0 if invalid. */
-uint32_t TarnAppendMessageIdToIuReleaseCommandMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToIuReleaseCommandMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToIuReleaseCommandMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromIuReleaseCommandMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -909,9 +901,8 @@ enum { TarnSecurityModeCommandHasEncryptInfo = 0x80 };
  * caller. */
 TarnMsg *TarnNewSecurityModeCommandMsg(void);
 
-/* TarnAppendMessageIdToSecurityModeCommandMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToSecurityModeCommandMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToSecurityModeCommandMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToSecurityModeCommandMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromSecurityModeCommandMsg copies the next MessageId to *value, returning 1
  * on success and 0 if there is none. */
@@ -1015,9 +1006,8 @@ enum { TarnSecurityModeCompleteHasEncryptAlgo = 0x80 };
  * caller. */
 TarnMsg *TarnNewSecurityModeCompleteMsg(void);
 
-/* TarnAppendMessageIdToSecurityModeCompleteMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToSecurityModeCompleteMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToSecurityModeCompleteMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToSecurityModeCompleteMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromSecurityModeCompleteMsg copies the next MessageId to *value, returning 1
  * on success and 0 if there is none. */
@@ -1109,9 +1099,8 @@ typedef struct TarnSecurityModeRejectRecord {
  * caller. */
 TarnMsg *TarnNewSecurityModeRejectMsg(void);
 
-/* TarnAppendMessageIdToSecurityModeRejectMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToSecurityModeRejectMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToSecurityModeRejectMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToSecurityModeRejectMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromSecurityModeRejectMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -1195,9 +1184,8 @@ typedef struct TarnRabAssignmentRequestRecord {
  * caller. */
 TarnMsg *TarnNewRabAssignmentRequestMsg(void);
 
-/* TarnAppendMessageIdToRabAssignmentRequestMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToRabAssignmentRequestMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToRabAssignmentRequestMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToRabAssignmentRequestMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromRabAssignmentRequestMsg copies the next MessageId to *value, returning 1
  * on success and 0 if there is none. */
@@ -1288,9 +1276,8 @@ enum {
  * caller. */
 TarnMsg *TarnNewRabAssignmentResponseMsg(void);
 
-/* TarnAppendMessageIdToRabAssignmentResponseMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToRabAssignmentResponseMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToRabAssignmentResponseMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToRabAssignmentResponseMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromRabAssignmentResponseMsg copies the next MessageId to *value, returning 1
  * on success and 0 if there is none. */
@@ -1389,9 +1376,8 @@ typedef struct TarnRabReleaseRequestRecord {
  * caller. */
 TarnMsg *TarnNewRabReleaseRequestMsg(void);
 
-/* TarnAppendMessageIdToRabReleaseRequestMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToRabReleaseRequestMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToRabReleaseRequestMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToRabReleaseRequestMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromRabReleaseRequestMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -1483,9 +1469,8 @@ enum {
  * caller. */
 TarnMsg *TarnNewRabReleaseResponseMsg(void);
 
-/* TarnAppendMessageIdToRabReleaseResponseMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToRabReleaseResponseMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToRabReleaseResponseMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToRabReleaseResponseMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromRabReleaseResponseMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -1572,9 +1557,8 @@ typedef struct TarnResetRecord {
 /* TarnNewResetMsg returns a new message that holds its MessageId, owned by the caller. */
 TarnMsg *TarnNewResetMsg(void);
 
-/* TarnAppendMessageIdToResetMsg appends a further copy of *value, returning 1 on success and 0 if
- * invalid. */
-uint32_t TarnAppendMessageIdToResetMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToResetMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToResetMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromResetMsg copies the next MessageId to *value, returning 1 on success and
  * 0 if there is none. */
@@ -1634,9 +1618,8 @@ enum { TarnIapResetHasUeContextRef = 0x80 };
 /* TarnNewIapResetMsg returns a new message that holds its MessageId, owned by the caller. */
 TarnMsg *TarnNewIapResetMsg(void);
 
-/* TarnAppendMessageIdToIapResetMsg appends a further copy of *value, returning 1 on success and 0
- * if invalid. */
-uint32_t TarnAppendMessageIdToIapResetMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToIapResetMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToIapResetMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromIapResetMsg copies the next MessageId to *value, returning 1 on success
  * and 0 if there is none. */
@@ -1710,9 +1693,8 @@ typedef struct TarnConnectedModePagingRecord {
  * caller. */
 TarnMsg *TarnNewConnectedModePagingMsg(void);
 
-/* TarnAppendMessageIdToConnectedModePagingMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToConnectedModePagingMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToConnectedModePagingMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToConnectedModePagingMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromConnectedModePagingMsg copies the next MessageId to *value, returning 1
  * on success and 0 if there is none. */
@@ -1821,9 +1803,8 @@ enum {
 /* TarnNewIdleModePagingMsg returns a new message that holds its MessageId, owned by the caller. */
 TarnMsg *TarnNewIdleModePagingMsg(void);
 
-/* TarnAppendMessageIdToIdleModePagingMsg appends a further copy of *value, returning 1 on success
- * and 0 if invalid. */
-uint32_t TarnAppendMessageIdToIdleModePagingMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToIdleModePagingMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToIdleModePagingMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromIdleModePagingMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -1929,9 +1910,8 @@ enum {
  * caller. */
 TarnMsg *TarnNewUserPlaneConfigRequestMsg(void);
 
-/* TarnAppendMessageIdToUserPlaneConfigRequestMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToUserPlaneConfigRequestMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToUserPlaneConfigRequestMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToUserPlaneConfigRequestMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromUserPlaneConfigRequestMsg copies the next MessageId to *value, returning
  * 1 on success and 0 if there is none. */
@@ -2074,9 +2054,8 @@ enum {
  * caller. */
 TarnMsg *TarnNewUserPlaneConfigResponseMsg(void);
 
-/* TarnAppendMessageIdToUserPlaneConfigResponseMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToUserPlaneConfigResponseMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToUserPlaneConfigResponseMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToUserPlaneConfigResponseMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromUserPlaneConfigResponseMsg copies the next MessageId to *value, returning
  * 1 on success and 0 if there is none. */
@@ -2196,9 +2175,8 @@ enum { TarnIuReleaseCompleteHasRabDataInfoList = 0x80 };
  * caller. */
 TarnMsg *TarnNewIuReleaseCompleteMsg(void);
 
-/* TarnAppendMessageIdToIuReleaseCompleteMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToIuReleaseCompleteMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToIuReleaseCompleteMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToIuReleaseCompleteMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromIuReleaseCompleteMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -2299,9 +2277,8 @@ enum {
  * caller. */
 TarnMsg *TarnNewRelocationRequiredMsg(void);
 
-/* TarnAppendMessageIdToRelocationRequiredMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToRelocationRequiredMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToRelocationRequiredMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToRelocationRequiredMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromRelocationRequiredMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -2444,9 +2421,8 @@ typedef struct TarnRelocationFailureRecord {
  * caller. */
 TarnMsg *TarnNewRelocationFailureMsg(void);
 
-/* TarnAppendMessageIdToRelocationFailureMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToRelocationFailureMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToRelocationFailureMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToRelocationFailureMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromRelocationFailureMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -2524,9 +2500,8 @@ typedef struct TarnRelocationCancelRecord {
  * caller. */
 TarnMsg *TarnNewRelocationCancelMsg(void);
 
-/* TarnAppendMessageIdToRelocationCancelMsg appends a further copy of *value, returning 1 on success
- * and 0 if invalid. */
-uint32_t TarnAppendMessageIdToRelocationCancelMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToRelocationCancelMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToRelocationCancelMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromRelocationCancelMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -2612,9 +2587,8 @@ enum {
  * caller. */
 TarnMsg *TarnNewRelocationCommandMsg(void);
 
-/* TarnAppendMessageIdToRelocationCommandMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToRelocationCommandMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToRelocationCommandMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToRelocationCommandMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromRelocationCommandMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -2716,9 +2690,8 @@ enum {
 /* TarnNewHandoverRequestMsg returns a new message that holds its MessageId, owned by the caller. */
 TarnMsg *TarnNewHandoverRequestMsg(void);
 
-/* TarnAppendMessageIdToHandoverRequestMsg appends a further copy of *value, returning 1 on success
- * and 0 if invalid. */
-uint32_t TarnAppendMessageIdToHandoverRequestMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToHandoverRequestMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToHandoverRequestMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromHandoverRequestMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -2815,9 +2788,8 @@ typedef struct TarnHandoverFailureRecord {
 /* TarnNewHandoverFailureMsg returns a new message that holds its MessageId, owned by the caller. */
 TarnMsg *TarnNewHandoverFailureMsg(void);
 
-/* TarnAppendMessageIdToHandoverFailureMsg appends a further copy of *value, returning 1 on success
- * and 0 if invalid. */
-uint32_t TarnAppendMessageIdToHandoverFailureMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToHandoverFailureMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToHandoverFailureMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromHandoverFailureMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -2889,9 +2861,8 @@ typedef struct TarnHandoverDetectRecord {
 /* TarnNewHandoverDetectMsg returns a new message that holds its MessageId, owned by the caller. */
 TarnMsg *TarnNewHandoverDetectMsg(void);
 
-/* TarnAppendMessageIdToHandoverDetectMsg appends a further copy of *value, returning 1 on success
- * and 0 if invalid. */
-uint32_t TarnAppendMessageIdToHandoverDetectMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToHandoverDetectMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToHandoverDetectMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromHandoverDetectMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -2953,9 +2924,8 @@ typedef struct TarnHandoverCompleteRecord {
  * caller. */
 TarnMsg *TarnNewHandoverCompleteMsg(void);
 
-/* TarnAppendMessageIdToHandoverCompleteMsg appends a further copy of *value, returning 1 on success
- * and 0 if invalid. */
-uint32_t TarnAppendMessageIdToHandoverCompleteMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToHandoverCompleteMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToHandoverCompleteMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromHandoverCompleteMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -3018,9 +2988,8 @@ typedef struct TarnHandoverCancelIndRecord {
  * caller. */
 TarnMsg *TarnNewHandoverCancelIndMsg(void);
 
-/* TarnAppendMessageIdToHandoverCancelIndMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToHandoverCancelIndMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToHandoverCancelIndMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToHandoverCancelIndMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromHandoverCancelIndMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -3094,9 +3063,8 @@ enum {
 /* TarnNewHandoverReqAckMsg returns a new message that holds its MessageId, owned by the caller. */
 TarnMsg *TarnNewHandoverReqAckMsg(void);
 
-/* TarnAppendMessageIdToHandoverReqAckMsg appends a further copy of *value, returning 1 on success
- * and 0 if invalid. */
-uint32_t TarnAppendMessageIdToHandoverReqAckMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToHandoverReqAckMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToHandoverReqAckMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromHandoverReqAckMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -3198,9 +3166,8 @@ enum {
  * caller. */
 TarnMsg *TarnNewUserPlaneModifyRequestMsg(void);
 
-/* TarnAppendMessageIdToUserPlaneModifyRequestMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToUserPlaneModifyRequestMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToUserPlaneModifyRequestMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToUserPlaneModifyRequestMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromUserPlaneModifyRequestMsg copies the next MessageId to *value, returning
  * 1 on success and 0 if there is none. */
@@ -3312,9 +3279,8 @@ typedef struct TarnUserPlaneModifyResponseRecord {
  * caller. */
 TarnMsg *TarnNewUserPlaneModifyResponseMsg(void);
 
-/* TarnAppendMessageIdToUserPlaneModifyResponseMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToUserPlaneModifyResponseMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToUserPlaneModifyResponseMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToUserPlaneModifyResponseMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromUserPlaneModifyResponseMsg copies the next MessageId to *value, returning
  * 1 on success and 0 if there is none. */
@@ -3404,9 +3370,8 @@ typedef struct TarnRabReleaseRequiredRecord {
  * caller. */
 TarnMsg *TarnNewRabReleaseRequiredMsg(void);
 
-/* TarnAppendMessageIdToRabReleaseRequiredMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToRabReleaseRequiredMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToRabReleaseRequiredMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToRabReleaseRequiredMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromRabReleaseRequiredMsg copies the next MessageId to *value, returning 1 on
  * success and 0 if there is none. */
@@ -3492,9 +3457,8 @@ typedef struct TarnAccessControlRequestRecord {
  * caller. */
 TarnMsg *TarnNewAccessControlRequestMsg(void);
 
-/* TarnAppendMessageIdToAccessControlRequestMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToAccessControlRequestMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToAccessControlRequestMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToAccessControlRequestMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromAccessControlRequestMsg copies the next MessageId to *value, returning 1
  * on success and 0 if there is none. */
@@ -3578,9 +3542,8 @@ typedef struct TarnAccessControlResponseRecord {
  * caller. */
 TarnMsg *TarnNewAccessControlResponseMsg(void);
 
-/* TarnAppendMessageIdToAccessControlResponseMsg appends a further copy of *value, returning 1 on
- * success and 0 if invalid. */
-uint32_t TarnAppendMessageIdToAccessControlResponseMsg(TarnMsg *msg, const TarnMessageId *value);
+/* TarnAppendMessageIdToAccessControlResponseMsg appends a further MessageId, returning 1. */
+uint32_t TarnAppendMessageIdToAccessControlResponseMsg(TarnMsg *msg, TarnMessageId value);
 
 /* TarnExtractMessageIdFromAccessControlResponseMsg copies the next MessageId to *value, returning 1
  * on success and 0 if there is none. */

@@ -222,13 +222,13 @@ void Tables::fill_composites() {
 
 // ---- Messages ----------------------------------------------------------------------------------
 
+// `given_` casts what is appended to what the operation takes.
 #define MESSAGE_SLOT(owner_, child_, presence_, condition_, given_, fetched_, append_, extract_)   \
     add_slot(messagesByName.at(#owner_)->slots,                                                    \
              {#child_, &type(#child_), Presence::presence_, condition_words(#condition_), 0,       \
               offsetof(Tarn##owner_##Record, child_),                                              \
               [](void *msg, const void *given) {                                                   \
-                  return append_(static_cast<TarnMsg *>(msg),                                      \
-                                 static_cast<given_>(const_cast<void *>(given)));                  \
+                  return append_(static_cast<TarnMsg *>(msg), given_(const_cast<void *>(given)));  \
               },                                                                                   \
               [](void *msg, void *fetched) {                                                       \
                   return extract_(static_cast<TarnMsg *>(msg), static_cast<fetched_>(fetched));    \
@@ -259,15 +259,18 @@ void Tables::fill_messages() { // NOLINT(readability-function-size)
             return TarnGet##name_##Msg(buffer, length,                                             \
                                        static_cast<Tarn##name_##Record *>(record));                \
         };                                                                                         \
-        MESSAGE_SLOT(name_, MessageId, mandatory, always, TarnMessageId *, TarnMessageId *,        \
-                     TarnAppendMessageIdTo##name_##Msg, TarnExtractMessageIdFrom##name_##Msg)      \
+        MESSAGE_SLOT(name_, MessageId, mandatory, always, *static_cast<TarnMessageId *>,           \
+                     TarnMessageId *, TarnAppendMessageIdTo##name_##Msg,                           \
+                     TarnExtractMessageIdFrom##name_##Msg)                                         \
     }
 #define PRIMITIVE_SLOT(owner_, child_, presence_, condition_)                                      \
-    MESSAGE_SLOT(owner_, child_, presence_, condition_, Tarn##child_ *, Tarn##child_ *,            \
-                 TarnAppend##child_##To##owner_##Msg, TarnExtract##child_##From##owner_##Msg)
+    MESSAGE_SLOT(owner_, child_, presence_, condition_, static_cast<Tarn##child_ *>,               \
+                 Tarn##child_ *, TarnAppend##child_##To##owner_##Msg,                              \
+                 TarnExtract##child_##From##owner_##Msg)
 #define COMPOSITE_SLOT(owner_, child_, presence_, condition_)                                      \
-    MESSAGE_SLOT(owner_, child_, presence_, condition_, Tarn##child_##Ie *, Tarn##child_##Ie **,   \
-                 TarnAppend##child_##IeTo##owner_##Msg, TarnExtract##child_##IeFrom##owner_##Msg)
+    MESSAGE_SLOT(owner_, child_, presence_, condition_, static_cast<Tarn##child_##Ie *>,           \
+                 Tarn##child_##Ie **, TarnAppend##child_##IeTo##owner_##Msg,                       \
+                 TarnExtract##child_##IeFrom##owner_##Msg)
 #include "catalogue/messages.def"
     std::sort(messages.begin(), messages.end(),
               [](const Message *a, const Message *b) { return a->id < b->id; });

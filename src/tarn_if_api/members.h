@@ -34,7 +34,7 @@ TARN_INLINE uint32_t append(Owner *owner, const void *value, Id id) {
 }
 
 // The MessageId IE, whose append is one of the codecs.
-uint32_t append_message_id(TarnMsg *msg, const TarnMessageId *value);
+uint32_t append_message_id(TarnMsg *msg, TarnMessageId value);
 
 // A composite is linked unseen: neither its tag nor its validity matters until the owner is
 // validated or packed.

@@ -69,10 +69,9 @@ private:
 // Writes the IEs of a list in list order, each of which must have a slot, and advances `out` by
 // what was written; false at the first that has none or cannot be written.
 template <class Owner>
-TARN_INLINE bool write_slots(Owner owner, const VelDllHead *list, Output *out) {
+TARN_INLINE bool write_slots(Owner owner, const VelDllHead *list, Caller caller, Output *out) {
     SlotWriter writer{*out};
-    const TarnIe *stray =
-        visit_ies<Stray::stops>(owner, list, TARN_CALLER(moduleInternal), &writer);
+    const TarnIe *stray = visit_ies<Stray::stops>(owner, list, caller, &writer);
     *out = writer.out;
     return stray == nullptr;
 }
@@ -93,7 +92,10 @@ TARN_INLINE bool write_elements(Id list_id, const VelDllHead *list, Output *out)
 template <class Id>
 TARN_INLINE bool write_children(Id id, const VelDllHead *children, Output *out) {
     return by_kind<is_sequence>(
-        id, [&](auto sequence) TARN_INLINE_LAMBDA { return write_slots(sequence, children, out); },
+        id,
+        [&](auto sequence) TARN_INLINE_LAMBDA {
+            return write_slots(sequence, children, TARN_CALLER(moduleInternal), out);
+        },
         [&](auto list) TARN_INLINE_LAMBDA { return write_elements(list, children, out); });
 }
 
@@ -102,7 +104,7 @@ TARN_INLINE bool write_children(Id id, const VelDllHead *children, Output *out) 
 template <class Id>
 Writing write_msg(Id id, const VelDllHead *list, Output out) {
     const uint32_t room = out.left;
-    const bool ok = write_slots(id, list, &out);
+    const bool ok = write_slots(id, list, TARN_CALLER(moduleApi), &out);
     return {room - out.left, ok};
 }
 

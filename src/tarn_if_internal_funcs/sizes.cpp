@@ -13,14 +13,13 @@ uint32_t ie_size(const TarnIe *ie) {
     if (type.fixedSize != 0)
         return headerSize + type.fixedSize;
     if (is_composite(type.kind))
-        return add_sizes(headerSize, ies_size(children_of(ie)));
+        return add_sizes(headerSize, ies_size(children_of(ie), TARN_CALLER(moduleInternal)));
     return add_sizes(headerSize, value_size(id, value_of(ie)));
 }
 
-uint32_t ies_size(const VelDllHead *list) {
+uint32_t ies_size(const VelDllHead *list, Caller caller) {
     uint32_t size = 0;
-    for (const TarnIe *ie = first_ie(list, TARN_CALLER(moduleInternal)); ie != nullptr;
-         ie = next_ie(list, ie, TARN_CALLER(moduleInternal)))
+    for (const TarnIe *ie = first_ie(list, caller); ie != nullptr; ie = next_ie(list, ie, caller))
         size = add_sizes(size, ie_size(ie));
     return size;
 }
@@ -32,7 +31,7 @@ uint32_t ie_size_checked(const TarnIe *ie) {
 int32_t msg_size_checked(const TarnMsg *msg) {
     if (any_null(TARN_CALLER(moduleApi), msg))
         return 0;
-    const uint32_t size = ies_size(&msg->ies);
+    const uint32_t size = ies_size(&msg->ies, TARN_CALLER(moduleApi));
     return size > INT32_MAX ? INT32_MAX : int32_t(size);
 }
 

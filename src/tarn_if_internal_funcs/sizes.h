@@ -10,8 +10,8 @@ namespace [[gnu::visibility("hidden")]] tarn {
 // tag that the protocol does not code.
 uint32_t ie_size(const TarnIe *ie);
 
-// Returns the sum over all IEs of the list.
-uint32_t ies_size(const VelDllHead *list);
+// Returns the sum over all IEs of the list. The caller tells whose list it is.
+uint32_t ies_size(const VelDllHead *list, Caller caller);
 
 // The operations of the public interface.
 uint32_t ie_size_checked(const TarnIe *ie);

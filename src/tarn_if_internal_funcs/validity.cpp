@@ -64,11 +64,11 @@ bool conditions_are_met(const SlotTable &table, const VelDllHead *list, unsigned
 // ones may stand in any order and any number of times. What stands behind the last position is
 // ignored, whatever its tag: peers of a later version may add to a message. A repeated slot alone
 // is looked for to the end.
-bool slots_are_valid(const SlotTable &table, const VelDllHead *list) {
+bool slots_are_valid(const SlotTable &table, const VelDllHead *list, Caller caller) {
     uint32_t position = 0;
     unsigned present = 0;
-    for (const TarnIe *ie = first_ie(list, TARN_CALLER(moduleInternal)); ie != nullptr;
-         ie = next_ie(list, ie, TARN_CALLER(moduleInternal)), ++position) {
+    for (const TarnIe *ie = first_ie(list, caller); ie != nullptr;
+         ie = next_ie(list, ie, caller), ++position) {
         if (position >= table.count && !repeats(table))
             break;
         const bool ok = position < table.mandatory
@@ -85,7 +85,7 @@ bool ie_is_valid(const TarnIe *ie, TypeId id) {
         return false;
     const Type &type = type_of(id);
     if (type.kind == Kind::sequence)
-        return slots_are_valid(type.slots, children_of(ie));
+        return slots_are_valid(type.slots, children_of(ie), TARN_CALLER(moduleInternal));
     if (type.kind == Kind::compositeList)
         return elements_are_valid(type, children_of(ie));
     return value_is_valid(id, value_of(ie));

@@ -8,8 +8,8 @@
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
-// Whether the list keeps the rules of the table.
-bool slots_are_valid(const SlotTable &table, const VelDllHead *list);
+// Whether the list keeps the rules of the table. The caller tells whose list it is.
+bool slots_are_valid(const SlotTable &table, const VelDllHead *list, Caller caller);
 
 // Whether each conditional slot's condition holds exactly if its bit is among those present.
 bool conditions_are_met(const SlotTable &table, const VelDllHead *list, unsigned present);

@@ -142,10 +142,13 @@ void add_slot_operations(const char *owner, const std::vector<protocol::Slot> &s
         if (slot.append == nullptr)
             continue;
         const std::string name = std::string(slot.name) + " and " + owner;
-        // The MessageId of a message is appended by the codecs' module.
-        const bool isMessageId = slot.type->tag == 72;
-        all->push_back({"append " + name, isMessageId ? internal : api, 2,
-                        [&slot](Pointers p) { return slot.append(p[0], p[1]); }});
+        // The MessageId of a message is appended by value, by the codecs' module.
+        if (slot.type->tag == 72)
+            all->push_back({"append " + name, internal, 1,
+                            [&slot](Pointers p) { return slot.append(p[0], &slot.type->tag); }});
+        else
+            all->push_back({"append " + name, api, 2,
+                            [&slot](Pointers p) { return slot.append(p[0], p[1]); }});
         all->push_back(
             {"extract " + name, api, 2, [&slot](Pointers p) { return slot.extract(p[0], p[1]); }});
     }

@@ -157,9 +157,13 @@ TEST_F(MessageRoundTrip, MissingPointersAreFatal) {
         for (const Slot &slot : message->slots) {
             Bytes value(sizeof(void *) + slot.type->valueSize);
             EXPECT_EQ(slot.append(nullptr, value.data()), 0U);
-            EXPECT_EQ(slot.append(msg.get(), nullptr), 0U);
-            // The append of MessageId is one of the codecs, as unpacking is.
-            expect_fatals(2, slot.type->tag == 72 ? "tarn_if_internal_funcs" : "tarn_if_api");
+            // The append of MessageId, which takes the id by value, is one of the codecs.
+            const bool isMessageId = slot.type->tag == 72;
+            expect_fatals(1, isMessageId ? "tarn_if_internal_funcs" : "tarn_if_api");
+            if (!isMessageId) {
+                EXPECT_EQ(slot.append(msg.get(), nullptr), 0U);
+                expect_fatals(1, "tarn_if_api");
+            }
             EXPECT_EQ(slot.extract(nullptr, value.data()), 0U);
             EXPECT_EQ(slot.extract(msg.get(), nullptr), 0U);
             expect_fatals(2, "tarn_if_api");

@@ -13,7 +13,7 @@ message objects and, in one call, on the record. Its comment gives its IEs in wi
 mandatory ones first; before them all stands the MessageId IE (tag 72, one byte: the message's id).
 
 TarnNewMMsg returns a new message object that holds its MessageId, so that there is no need to call
-TarnAppendMessageIdToMMsg. The caller owns it, until TarnDeleteMsg.
+TarnAppendMessageIdToMMsg, which takes the id by value. The caller owns it, until TarnDeleteMsg.
 
 TarnAppendPToMMsg appends a primitive IE: a new IE object of the library's with a copy of *value. It
 fails if the value is invalid, and then changes nothing. TarnAppendSIeToMMsg appends a composite IE:
@@ -34,8 +34,8 @@ holds.
 
 TarnPackMMsg writes all IEs of the message to buffer in list order; TarnSizeOfMsg tells how many
 bytes that takes. It applies none of the rules of presence and order, but fails if an IE is none of
-M's or does not pack. A size that is too small is fatal. What a buffer holds after a failure means
-nothing.
+M's or does not pack; what the buffer holds then means nothing. A size that is too small is fatal
+and leaves the buffer as it was.
 
 TarnUnpackMMsg returns a new message object, read from buffer, that the caller owns until
 TarnDeleteMsg, or null. IEs are taken in the order of the table, and each must be valid. A mandatory

@@ -53,12 +53,19 @@ std::vector<Constant> presenceConstants(const std::string &owner, const std::vec
 
 namespace {
 
+void writeValueAppend(Page &page, const std::string &child, const Parent &parent) {
+    const std::string name = "TarnAppend" + child + "To" + parent.name;
+    // A message gets its MessageId when it is created; any value of it is valid.
+    if (child == "MessageId")
+        page.function("uint32_t", name, {parent.parameter, "TarnMessageId value"},
+                      "appends a further MessageId, returning 1.");
+    else
+        page.function("uint32_t", name, {parent.parameter, "const Tarn" + child + " *value"},
+                      "appends a copy of *value, returning 1 on success and 0 if invalid.");
+}
+
 void writeValueOperations(Page &page, const std::string &child, const Parent &parent) {
-    // A message gets its MessageId when it is created.
-    const std::string what = child == "MessageId" ? "a further copy" : "a copy";
-    page.function("uint32_t", "TarnAppend" + child + "To" + parent.name,
-                  {parent.parameter, "const Tarn" + child + " *value"},
-                  "appends " + what + " of *value, returning 1 on success and 0 if invalid.");
+    writeValueAppend(page, child, parent);
     page.function("uint32_t", "TarnExtract" + child + "From" + parent.name,
                   {parent.parameter, "Tarn" + child + " *value"},
                   "copies the next " + child +
