@@ -1,7 +1,7 @@
 // Counts every operation's instructions. Run under callgrind by scripts/bench.sh.
 //
 // Each operation is run some number of times and then twice as often: the difference is free of the
-// loop's beginning and end, and by then the host's pool has all the blocks that it needs.
+// loop's beginning and end, and by then the host keeps all the blocks that it needs.
 #include <cstdio>
 
 #include "counting.h"

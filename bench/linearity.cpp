@@ -65,7 +65,7 @@ public:
         suffix_ = "/" + std::to_string(size) + "/" + std::to_string(count_ies(&msg->ies)) + "/" +
                   std::to_string(turns);
         TarnDeleteMsg(msg);
-        run_all([](const std::string &, const auto &run) { run(); }); // fills the host's pool
+        run_all([](const std::string &, const auto &run) { run(); }); // fills what the host keeps
         run_all([](const std::string &name, const auto &run) { bench::count(name, run); });
     }
 

@@ -1,5 +1,6 @@
 // Doubly linked lists whose ends are null.
 
+#include "checking.h"
 #include "support.h"
 
 void xVelDllInitHead(VelDllHead *head, uint32_t, const char *, uint32_t) {
@@ -10,7 +11,10 @@ void xVelDllInitNode(VelDllNode *node, const char *, uint32_t) {
     *node = {nullptr, nullptr};
 }
 
-void xVelDllAddToTail(VelDllHead *head, VelDllNode *node, const char *, uint32_t) {
+void xVelDllAddToTail(VelDllHead *head, VelDllNode *node, const char *module, uint32_t line) {
+    if (tarn_host::is_checking && !tarn_host::may_link(head, node, {module, line})) [[unlikely]] {
+        return;
+    }
     VelDllNode *const last = head->last;
     *node = {nullptr, last};
     (last != nullptr ? last->next : head->first) = node;
@@ -25,7 +29,10 @@ VelDllNode *xVelDllGetNext(const VelDllHead *, const VelDllNode *current, const 
     return current->next;
 }
 
-void xVelDllRemoveNode(VelDllHead *head, VelDllNode *node, const char *, uint32_t) {
+void xVelDllRemoveNode(VelDllHead *head, VelDllNode *node, const char *module, uint32_t line) {
+    if (tarn_host::is_checking) [[unlikely]] {
+        tarn_host::check_unlink(head, node, {module, line});
+    }
     VelDllNode *const next = node->next;
     VelDllNode *const previous = node->previous;
     (previous != nullptr ? previous->next : head->first) = next;

@@ -9,21 +9,20 @@
 
 namespace {
 
-// A handler and its context change together, which is why a mutex guards them. Handlers run outside
+// A handler and its context change together, which is why a lock guards them. Handlers run outside
 // it: they may throw, jump away, or set handlers themselves.
-pthread_mutex_t reportsMutex = PTHREAD_MUTEX_INITIALIZER;
-TarnHostFatalErrorReport fatalErrorReport;
-TarnHostDebugTokenReport debugTokenReport;
+TarnHostFatalErrorReport fatal_error_report;
+TarnHostDebugTokenReport debug_token_report;
 
 template <typename Report>
 Report current(const Report &report) {
-    const tarn_host::Locked locked(reportsMutex);
+    const tarn_host::Locked locked;
     return report;
 }
 
 template <typename Report>
 Report exchange(Report &report, const Report &replacement) {
-    const tarn_host::Locked locked(reportsMutex);
+    const tarn_host::Locked locked;
     const Report former = report;
     report = replacement;
     return former;
@@ -31,24 +30,24 @@ Report exchange(Report &report, const Report &replacement) {
 
 // libtarn leaves the text empty: these are the only two errors that it reports.
 const char *describe(const char *text) {
-    const bool isEmpty = text == nullptr || *text == '\0';
-    return isEmpty ? "a required pointer is null or a buffer is too small" : text;
+    const bool is_empty = text == nullptr || *text == '\0';
+    return is_empty ? "a required pointer is null or a buffer is too small" : text;
 }
 
 } // namespace
 
 TarnHostFatalErrorReport tarnHostSetFatalErrorHandler(TarnHostFatalErrorHandler handler,
                                                       void *context) {
-    return exchange(fatalErrorReport, {handler, context});
+    return exchange(fatal_error_report, {handler, context});
 }
 
 TarnHostDebugTokenReport tarnHostSetDebugTokenHandler(TarnHostDebugTokenHandler handler,
                                                       void *context) {
-    return exchange(debugTokenReport, {handler, context});
+    return exchange(debug_token_report, {handler, context});
 }
 
 void velSwFatalError(const char *text, const char *module, uint32_t line) {
-    const TarnHostFatalErrorReport report = current(fatalErrorReport);
+    const TarnHostFatalErrorReport report = current(fatal_error_report);
     if (report.handler != nullptr) {
         report.handler(report.context, describe(text), module, line);
         return;
@@ -58,7 +57,7 @@ void velSwFatalError(const char *text, const char *module, uint32_t line) {
 }
 
 void velSwTokenDebug(uint32_t token, uint32_t value) {
-    const TarnHostDebugTokenReport report = current(debugTokenReport);
+    const TarnHostDebugTokenReport report = current(debug_token_report);
     if (report.handler != nullptr) {
         report.handler(report.context, token, value);
         return;

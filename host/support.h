@@ -5,8 +5,6 @@
 #ifndef TARN_HOST_SUPPORT_H
 #define TARN_HOST_SUPPORT_H
 
-#include <pthread.h>
-
 // The services stay visible to libtarn however the host is compiled.
 #pragma GCC visibility push(default)
 #include "vel_platform.h"
@@ -14,16 +12,20 @@
 
 namespace tarn_host {
 
-// Holds a mutex for the length of a scope.
+// Holds the host's one mutex for the length of a scope. A fork waits until no thread holds it, so
+// that a child never inherits it locked. Handlers are called outside it.
 class Locked {
 public:
-    explicit Locked(pthread_mutex_t &mutex) : mutex_(mutex) { pthread_mutex_lock(&mutex_); }
-    ~Locked() { pthread_mutex_unlock(&mutex_); }
+    Locked();
+    ~Locked();
     Locked(const Locked &) = delete;
     Locked &operator=(const Locked &) = delete;
+};
 
-private:
-    pthread_mutex_t &mutex_;
+// Where in libtarn a call of the host comes from.
+struct Place {
+    const char *module;
+    uint32_t line;
 };
 
 } // namespace tarn_host

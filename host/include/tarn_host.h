@@ -13,21 +13,32 @@
 extern "C" {
 #endif
 
-/* ---- Live blocks ----------------------------------------------------------------------------- */
+/* ---- Memory ---------------------------------------------------------------------------------- */
 
 /* Returns how many blocks, of all threads, are allocated and not yet freed. The number is exact
- * while no other thread allocates or frees. Meant for tests and for the end of a program: it takes
- * a lock and visits every thread's counters. */
+ * while no other thread allocates or frees. Meant for tests and for the end of a program: it visits
+ * every thread's counters. */
 uint64_t tarnHostLiveBlocks(void);
 
-/* Prints the number of live blocks and the bytes that were asked for them, as one line. */
+/* Prints the number of live blocks and the bytes that they take, as one line. In checking mode
+ * lines follow that name the blocks and the places that allocated them. */
 void tarnHostReportLiveBlocks(FILE *stream);
+
+/* Gives free memory back to the system: what the calling thread keeps for reuse and what malloc
+ * holds. Other threads go on keeping up to 64 KB each. */
+void tarnHostTrim(void);
+
+/* Limits what the host holds, live blocks and those kept for reuse, to so many bytes; 0 for no limit,
+ * which is the default. An allocation beyond it is a fatal error, like one for which the system has
+ * no memory. Returns the former limit. */
+uint64_t tarnHostSetLimit(uint64_t bytes);
 
 /* ---- Fatal errors ---------------------------------------------------------------------------- */
 
-/* Told of a programming error: `text` says what is wrong and is never empty; `module` and `line`
- * name the place that noticed. The handler may throw a C++ exception, jump out with longjmp or end
- * the program. Should it return, the call that reported fails. */
+/* Told of a programming error, or that there is no more memory: `text` says what is wrong and is
+ * never empty; `module` and `line` name the place that noticed. The handler may throw a C++
+ * exception, jump out with longjmp or end the program. Should it return, the call that reported
+ * fails, or, for want of memory, the program is aborted. */
 typedef void (*TarnHostFatalErrorHandler)(void *context, const char *text, const char *module,
                                           uint32_t line);
 
