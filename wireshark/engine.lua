@@ -50,32 +50,40 @@ for _, message in ipairs(rows.messages) do
   messagesById[message.id] = message
 end
 
--- ---- Words -------------------------------------------------------------------------------------
-
-local reasons = {
-  missingAtEnd = "missing: the bytes end before {ie}",
-  missingInRecord = "missing: the length of {ie} is used up after {taken}",
-  missingCalledFor = "missing: it is required where {condition}",
-  otherThanCalledFor = "missing: it is required where {condition}; found {found}",
-  uncalled = "not allowed here: it stands only where {condition}",
-  otherTag = "expected {ie}, found {found}",
-  truncatedHeader = "truncated header: tag and length take 6 bytes, but only {left}",
-  wrongWidth = "its length field says {declared}, where {name} takes exactly {width}",
-  tooFewLeft = "its length field says {declared}, but only {left}",
-  beyondCapacity = "its length field says {declared}, more than the {capacity} bytes that {name} can hold",
-  oneItemTooMany = "one more than the {count} items that {name} can hold",
-  below = "{number} is below {least}",
-  above = "{number} is above {greatest}",
-  wrongCount = "{count}, where {range} are allowed",
-  endsInList = "its length field says {declared}, but the bytes end after {taken}",
-  passesEnd = "passes the end of {list}, whose length field says {declared}",
-  unknownMessage = "no message has the id {id}",
-  otherLength = "its length field says {declared}, but the {parts} read take {taken}",
-  ignored = "{count} ignored",
-  ignoredFrom = "{count} ignored, from {found} on",
-  ignoredForeign = "{count} ignored, from {found} on, which is no IE of {message}",
-  ignoredOrder = "{count} ignored, from {found} on, which stands twice or out of order",
+rows.reasons = {
+  BytesEnd = "missing: the bytes end before {ie}",
+  WrongTag = "expected {ie}, found {found}",
+  HeaderCut = "truncated header: tag and length take 6 bytes, but only {number} {number:remains}",
+  WrongWidth = "its length field says {number}, where {name} takes exactly {width}",
+  LengthBeyondBytes = "its length field says {number}, but only {other:byte} {other:remains}",
+  LengthBeyondArray = "its length field says {number}, more than the {capacity} bytes that {name} can hold",
+  MemberMissing = "missing: the length of {ie} is used up after {number:byte}",
+  TooManyItems = "one more than the {capacity} items that {name} can hold",
+  ListEnds = "its length field says {number}, but the bytes end after {other}",
+  ElementBeyondList = "passes the end of {owner}, whose length field says {number}",
+  UnknownMessageId = "no message has the id {number}",
+  NoMessage = "no message",
+  BelowLeast = "{number} is below {least}",
+  AboveGreatest = "{number} is above {greatest}",
+  CountOutOfRange = "{number:unit}, where {range} are allowed",
+  Missing = "missing: it is mandatory",
+  Needed = "missing: it is required where {condition}",
+  NeededButFound = "missing: it is required where {condition}; found {found}",
+  NotCalledFor = "not allowed here: it stands only where {condition}",
+  Foreign = "{found} does not belong here",
+  BufferTooSmall = "the message takes {number:byte}, but the buffer holds {other}",
+  LengthDiffers = "its length field says {number}, but the {parts} read take {other:byte}",
+  Ignored = "{number:byte} ignored",
+  IgnoredFrom = "{number:byte} ignored, from {found} on",
+  IgnoredForeign = "{number:byte} ignored, from {found} on, which is no IE of {message}",
+  IgnoredUnordered = "{number:byte} ignored, from {found} on, which stands twice or out of order",
 }
+
+for name, form in pairs({ IpAddress = "Dotted", Imsi = "Digits", NasUeId = "Digits",
+  PLMNId = "MccMnc", TempUeIdValue = "HexNumber", LAC = "HexNumber", CI = "HexNumber" }) do
+  typesByName[name].form = form
+end
+-- ---- Words -------------------------------------------------------------------------------------
 
 local function number_text(number)
   return string.format("%d", number)
@@ -90,15 +98,46 @@ local function label_of_tag(tag)
   return type and type.label or "unknown tag " .. tag
 end
 
-local function remaining(text, left)
-  return text .. (left == 1 and " remains" or " remain")
-end
+local units = { bytes = "byte", list = "item", compositeList = "element" }
 
 local function range_text(type)
   if type.least == type.greatest then
     return "exactly " .. number_text(type.least)
   end
   return number_text(type.least) .. " to " .. number_text(type.greatest)
+end
+
+-- What the place holders of a sentence stand for; `type` is that of the IE told of.
+local placeHolders = {
+  ie = function(type) return type.label end,
+  name = function(type) return type.name end,
+  width = function(type) return counted(type.width, "byte") end,
+  least = function(type) return number_text(type.least) end,
+  greatest = function(type) return number_text(type.greatest) end,
+  capacity = function(type) return number_text(type.capacity) end,
+  range = range_text,
+  parts = function(type) return type.item and "items" or "parts" end,
+  found = function(_, values) return label_of_tag(values.found) end,
+  owner = function(_, values) return values.owner end,
+  condition = function(_, values) return values.condition.meaning end,
+  message = function(_, values) return values.message.name end,
+}
+
+-- How a number may stand in a sentence: {number}, {other:byte}.
+local numberForms = {
+  [""] = number_text,
+  byte = function(number) return counted(number, "byte") end,
+  unit = function(number, type) return counted(number, units[type.shape]) end,
+  remains = function(number) return number == 1 and "remains" or "remain" end,
+}
+
+local function sentence(reason, type, values)
+  return (rows.reasons[reason]:gsub("{(%w+):?(%w*)}", function(name, form)
+    if placeHolders[name] then
+      return placeHolders[name](type, values)
+    end
+    return numberForms[form](values[name], type)
+  end))
 end
 
 local function path_of(node)
@@ -112,9 +151,11 @@ local function path_of(node)
   return path == "" and node.name or path .. "." .. node.name
 end
 
--- Something found: at a byte, in an IE, for a reason, in words.
+-- Something found: at a byte, in an IE, for a reason. `values` holds what its sentence needs beyond
+-- the IE's own row; its `type` stands in for that row.
 local function finding(node, at, reason, values)
-  local what = reasons[reason]:gsub("{(%w+)}", values)
+  values = values or {}
+  local what = sentence(reason, values.type or node.type, values)
   return { at = at, path = path_of(node), reason = reason, what = what }
 end
 
@@ -155,37 +196,30 @@ local function read_header(walk, node)
   local at, left, type = walk.at, walk.length - walk.at, node.type
   node.at = at
   if left == 0 then
-    return finding(node, at, "missingAtEnd", { ie = type.label })
+    return finding(node, at, "BytesEnd")
   end
   local tag = tag_at(walk)
   if left >= tagSize and tag ~= type.tag then
-    return finding(node, at, "otherTag", { ie = type.label, found = label_of_tag(tag) })
+    return finding(node, at, "WrongTag", { found = tag })
   end
   if left < headerSize then
-    return finding(node, at, "truncatedHeader", { left = remaining(number_text(left), left) })
+    return finding(node, at, "HeaderCut", { number = left })
   end
   node.declared = number_at(walk.bytes, at + tagSize, headerSize - tagSize)
   walk.at = at + headerSize
 end
 
 local function too_few_left(walk, node)
-  local left = walk.length - node.at - headerSize
-  return finding(node, node.at + tagSize, "tooFewLeft", {
-    declared = number_text(node.declared),
-    left = remaining(counted(left, "byte"), left),
-  })
+  local values = { number = node.declared, other = walk.length - node.at - headerSize }
+  return finding(node, node.at + tagSize, "LengthBeyondBytes", values)
 end
 
 -- Notes a length field that disagrees with what was read.
 local function note_length(walk, node)
   local taken = walk.at - node.at - headerSize
   if node.declared ~= taken then
-    local isList = node.type.item ~= nil
-    walk.notes[#walk.notes + 1] = finding(node, node.at + tagSize, "otherLength", {
-      declared = number_text(node.declared),
-      parts = isList and "items" or "parts",
-      taken = counted(taken, "byte"),
-    })
+    local values = { number = node.declared, other = taken }
+    walk.notes[#walk.notes + 1] = finding(node, node.at + tagSize, "LengthDiffers", values)
   end
 end
 
@@ -201,11 +235,7 @@ end
 function readers.scalar(walk, node)
   local type, at = node.type, walk.at
   if node.declared ~= type.width then
-    return finding(node, node.at + tagSize, "wrongWidth", {
-      declared = number_text(node.declared),
-      name = type.name,
-      width = counted(type.width, "byte"),
-    })
+    return finding(node, node.at + tagSize, "WrongWidth", { number = node.declared })
   end
   if node.declared > walk.length - at then
     return too_few_left(walk, node)
@@ -220,11 +250,7 @@ function readers.bytes(walk, node)
     return too_few_left(walk, node)
   end
   if node.declared > type.capacity then
-    return finding(node, node.at + tagSize, "beyondCapacity", {
-      declared = number_text(node.declared),
-      capacity = type.capacity,
-      name = type.name,
-    })
+    return finding(node, node.at + tagSize, "LengthBeyondArray", { number = node.declared })
   end
   node.count = node.declared
   walk.at = walk.at + node.declared
@@ -240,10 +266,8 @@ function readers.record(walk, node)
   for i, type in ipairs(node.type.members) do
     local member = new_node(node, type, type.name)
     if walk.at - start >= node.declared then
-      return finding(member, walk.at, "missingInRecord", {
-        ie = node.type.label,
-        taken = counted(walk.at - start, "byte"),
-      })
+      local values = { type = node.type, number = walk.at - start }
+      return finding(member, walk.at, "MemberMissing", values)
     end
     local fault = read_value(walk, member)
     if fault then
@@ -263,7 +287,7 @@ function readers.list(walk, node)
   while walk.at - start < node.declared do
     local item = new_node(node, type.item, type.item.name, node.count)
     if node.count == type.capacity then
-      return finding(item, walk.at, "oneItemTooMany", { count = node.count, name = type.name })
+      return finding(item, walk.at, "TooManyItems", { type = type })
     end
     local fault = read_value(walk, item)
     if fault then
@@ -277,23 +301,20 @@ end
 
 -- ---- Ranges ------------------------------------------------------------------------------------
 
-local function count_fault(node, at, unit)
+local function count_fault(node, at)
   local type = node.type
   if node.count < type.least or node.count > type.greatest then
-    return finding(node, at, "wrongCount", {
-      count = counted(node.count, unit),
-      range = range_text(type),
-    })
+    return finding(node, at, "CountOutOfRange", { number = node.count })
   end
 end
 
 local function number_fault(node)
   local type, number, at = node.type, node.number, node.at + headerSize
   if number < type.least then
-    return finding(node, at, "below", { number = number, least = number_text(type.least) })
+    return finding(node, at, "BelowLeast", { number = number })
   end
   if number > type.greatest then
-    return finding(node, at, "above", { number = number, greatest = number_text(type.greatest) })
+    return finding(node, at, "AboveGreatest", { number = number })
   end
 end
 
@@ -303,9 +324,9 @@ local function find_invalid(node)
   if shape == "scalar" then
     return number_fault(node)
   elseif shape == "bytes" then
-    return count_fault(node, node.at + headerSize, "byte")
+    return count_fault(node, node.at + headerSize)
   elseif shape == "list" then
-    fault = count_fault(node, node.at + headerSize, "item")
+    fault = count_fault(node, node.at + headerSize)
   end
   for i = 1, fault and 0 or #node do
     fault = fault or find_invalid(node[i])
@@ -339,8 +360,7 @@ local function unmet_condition(owner, slots)
 end
 
 local function needed(owner, slot, at)
-  local values = { condition = slot.condition.meaning }
-  return finding(new_node(owner, slot.type, slot.name), at, "missingCalledFor", values)
+  return finding(new_node(owner, slot.type, slot.name), at, "Needed", slot)
 end
 
 local read_slots, read_elements
@@ -365,7 +385,7 @@ local function read_composite(walk, node)
   if unmet then
     return "invalid", needed(node, unmet, walk.at)
   end
-  fault = type.item and count_fault(node, node.at, "element")
+  fault = type.item and count_fault(node, node.at)
   return fault and "invalid" or "valid", fault
 end
 
@@ -392,15 +412,13 @@ local function refusal(walk, owner, row, slot, node, outcome, fault)
   end
   local stoodThere = tag_at(walk) == slot.type.tag
   if outcome == "valid" then
-    fault = finding(node, walk.at, "uncalled", { condition = slot.condition.meaning })
+    fault = finding(node, walk.at, "NotCalledFor", slot)
   end
   if slot.condition then
     local calledFor = is_called_for(owner, slot)
     if outcome == "absent" and calledFor and not stoodThere then
-      fault = finding(node, fault.at, "otherThanCalledFor", {
-        condition = slot.condition.meaning,
-        found = label_of_tag(tag_at(walk)),
-      })
+      local values = { condition = slot.condition, found = tag_at(walk) }
+      fault = finding(node, fault.at, "NeededButFound", values)
     end
     local refuses = calledFor
     if outcome ~= "absent" then
@@ -450,8 +468,7 @@ local function end_of_bytes(walk, owner, row, next)
   for i = next, #row.slots do
     local slot = row.slots[i]
     if slot.isMandatory then
-      local missing = new_node(owner, slot.type, slot.name)
-      return finding(missing, walk.at, "missingAtEnd", { ie = slot.type.label })
+      return finding(new_node(owner, slot.type, slot.name), walk.at, "BytesEnd")
     end
     local mayRefuse = slot.condition and row.rule == "dropUncalledRequireAtEnd"
     if mayRefuse and is_called_for(owner, slot) then
@@ -478,10 +495,8 @@ function read_elements(walk, list, type)
   list.count = 0
   while walk.at - start < list.declared do
     if walk.at == walk.length then
-      return finding(list, start - headerSize + tagSize, "endsInList", {
-        declared = number_text(list.declared),
-        taken = number_text(walk.at - start),
-      })
+      local values = { number = list.declared, other = walk.at - start }
+      return finding(list, start - headerSize + tagSize, "ListEnds", values)
     end
     local at, noteCount = walk.at, #walk.notes
     local element = new_node(list, type.item, type.item.name, list.count)
@@ -495,10 +510,8 @@ function read_elements(walk, list, type)
     end
     list.count = list.count + 1
     if walk.at - start > list.declared then
-      return finding(element, walk.at, "passesEnd", {
-        list = path_of(list),
-        declared = number_text(list.declared),
-      })
+      local values = { owner = path_of(list), number = list.declared }
+      return finding(element, walk.at, "ElementBeyondList", values)
     end
   end
 end
@@ -533,21 +546,18 @@ local function explain_rest(walk, root, message)
   if left == 0 then
     return
   end
-  local reason, tag = "ignored", tag_at(walk)
+  local reason, tag = "Ignored", tag_at(walk)
   local last = walk.leftOut[#walk.leftOut]
   if left >= headerSize then
-    reason = "ignoredFrom"
+    reason = "IgnoredFrom"
     if not belongs(message, tag) then
-      reason = "ignoredForeign"
+      reason = "IgnoredForeign"
     elseif not last or last.at ~= walk.at then
-      reason = "ignoredOrder"
+      reason = "IgnoredUnordered"
     end
   end
-  walk.notes[#walk.notes + 1] = finding(root, walk.at, reason, {
-    count = counted(left, "byte"),
-    found = label_of_tag(tag),
-    message = message.name,
-  })
+  local values = { number = left, found = tag, message = message }
+  walk.notes[#walk.notes + 1] = finding(root, walk.at, reason, values)
   add_left_out(walk, walk.at, walk.notes)
 end
 
@@ -559,7 +569,7 @@ local function read_message_id(walk, root)
   end
   root[1] = node
   local message = messagesById[node.number]
-  return message, not message and finding(node, headerSize, "unknownMessage", { id = node.number })
+  return message, not message and finding(node, headerSize, "UnknownMessageId", node)
 end
 
 -- Reads the bytes of one message, a string. The result: the message's row if it is known, the IEs
@@ -585,11 +595,46 @@ local function read_message(bytes)
   return result
 end
 
+-- ---- Readable forms ----------------------------------------------------------------------------
+
+local function hex(bytes)
+  return (bytes:gsub(".", function(c)
+    return string.format("%02x", byte(c))
+  end))
+end
+
+-- The half bytes as hex digits, the low half first.
+local function half_bytes(bytes)
+  return (hex(bytes):gsub("(.)(.)", "%2%1"))
+end
+
+local forms = {}
+
+-- ASCII digits with zeros behind them, or one digit in each half byte up to a half byte of 15.
+function forms.Digits(bytes)
+  return bytes:match("^(%d+)%z*$") or half_bytes(bytes):match("^(%d+)f*$")
+end
+
+-- Half bytes: three digits of the MCC, the third of the MNC or 15, the first and second of the MNC.
+function forms.MccMnc(bytes)
+  local mcc, third, mnc = half_bytes(bytes):match("^(%d%d%d)([%df])(%d%d)$")
+  return mcc and mcc .. "-" .. mnc .. third:gsub("f", "")
+end
+
+function forms.HexNumber(bytes)
+  return tonumber(hex(bytes), 16)
+end
+
+-- A byte string as people read it, where its row names a form and the bytes have it; else in hex.
+local function readable(type, bytes)
+  return forms[type.form](bytes) or hex(bytes)
+end
+
 local engine = {
   rows = rows,
   read_message = read_message,
   words = words,
-  path_of = path_of,
+  readable = readable,
   messagesById = messagesById,
   headerSize = headerSize,
 }

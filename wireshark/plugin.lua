@@ -1,0 +1,525 @@
+-- ---- Wireshark's part --------------------------------------------------------------------------
+
+local tarn = Proto("tarn", "Tarn Signalling")
+
+tarn.prefs.ports = Pref.range("Ports", "", "Ports of UDP, SCTP and TCP that carry messages. " ..
+  "Elsewhere messages are found by their first bytes.", 65535)
+tarn.prefs.link_types = Pref.range("User link types", "147", "Link types, 147 to 162, of captures " ..
+  "that hold one message in each packet and nothing around it.", 162)
+tarn.prefs.nas = Pref.bool("Dissect NAS messages", true, "Hand the content of NasMsg to the " ..
+  "dissector of GSM and UMTS NAS.")
+
+-- ---- Fields ------------------------------------------------------------------------------------
+
+local fields = {
+  message = ProtoField.string("tarn.message", "Message"),
+  verdict = ProtoField.string("tarn.verdict", "Verdict", base.NONE,
+    "valid; invalid: decodes and breaks a rule; refused: does not decode"),
+  finding = ProtoField.string("tarn.finding", "Finding"),
+  findingAt = ProtoField.uint32("tarn.finding.offset", "Byte of the message", base.DEC_HEX),
+  findingPath = ProtoField.string("tarn.finding.path", "IE"),
+  findingReason = ProtoField.string("tarn.finding.reason", "Reason"),
+  length = ProtoField.uint32("tarn.length", "Length in front", base.DEC),
+  skipped = ProtoField.bytes("tarn.skipped", "Bytes that are no message"),
+  requestIn = ProtoField.framenum("tarn.request_in", "Request in", base.NONE, frametype.REQUEST),
+  responseIn = ProtoField.framenum("tarn.response_in", "Response in", base.NONE,
+    frametype.RESPONSE),
+  responseTime = ProtoField.relative_time("tarn.response_time", "Response time"),
+}
+
+local experts = {
+  refused = ProtoExpert.new("tarn.refused", "Does not decode", expert.group.MALFORMED,
+    expert.severity.ERROR),
+  invalid = ProtoExpert.new("tarn.invalid", "Decodes and is not valid", expert.group.PROTOCOL,
+    expert.severity.WARN),
+  letPass = ProtoExpert.new("tarn.let_pass", "Let pass", expert.group.PROTOCOL,
+    expert.severity.NOTE),
+  skipped = ProtoExpert.new("tarn.no_message", "Bytes that are no message",
+    expert.group.UNDECODED, expert.severity.WARN),
+  nas = ProtoExpert.new("tarn.nas", "The NAS message does not decode", expert.group.UNDECODED,
+    expert.severity.NOTE),
+}
+
+local uintFields = { ProtoField.uint8, ProtoField.uint16, [4] = ProtoField.uint32 }
+
+-- Valid byte strings that are shown as a number are of one length.
+local function make_field(type)
+  local filter, name, term = "tarn." .. type.name:lower(), type.name, type.term
+  if type == messageIdType then
+    local names = {}
+    for id, message in pairs(messagesById) do
+      names[id] = message.name
+    end
+    return ProtoField.uint8(filter, name, base.DEC, names, nil, term)
+  elseif type.shape == "scalar" then
+    return uintFields[type.width](filter, name, base.DEC_HEX, nil, nil, term)
+  elseif type.form == "HexNumber" then
+    return uintFields[type.greatest](filter, name, base.HEX, nil, nil, term)
+  elseif type.form == "Dotted" then
+    return ProtoField.ipv4(filter, name, term)
+  elseif type.form then
+    return ProtoField.string(filter, name, base.NONE, term)
+  elseif type.shape == "bytes" then
+    return ProtoField.bytes(filter, name, base.SPACE, term)
+  end
+  return ProtoField.none(filter, name, term)
+end
+
+local allFields, fieldOf = {}, {}
+for _, field in pairs(fields) do
+  allFields[#allFields + 1] = field
+end
+for _, type in ipairs(rows.types) do
+  fieldOf[type] = make_field(type)
+  allFields[#allFields + 1] = fieldOf[type]
+end
+tarn.fields = allFields
+
+local allExperts = {}
+for _, field in pairs(experts) do
+  allExperts[#allExperts + 1] = field
+end
+tarn.experts = allExperts
+
+-- ---- Trees -------------------------------------------------------------------------------------
+--
+-- A view is one message in a packet: the packet's buffer, the message's first byte and its size
+-- there, and its bytes as a string.
+
+local nasDissector = Dissector.get("gsm_a_dtap")
+
+-- A NAS message that is malformed throws through the call, and leaves behind that nothing more may
+-- be desegmented: the rest of a TCP stream would be lost.
+local function dissect_nas(range, pinfo, item)
+  local canDesegment = pinfo.can_desegment
+  local isDissected = pcall(nasDissector.call, nasDissector, range:tvb(), pinfo, item)
+  pinfo.can_desegment = canDesegment
+  if not isDissected then
+    item:add_proto_expert_info(experts.nas)
+  end
+end
+
+local function range_of(view, at, size)
+  return view.tvb(view.start + at, size)
+end
+
+local function dotted(node)
+  local parts = {}
+  for i, part in ipairs(node) do
+    parts[i] = part.number
+  end
+  return table.concat(parts, ".")
+end
+
+local function add_bytes(tree, node, view, pinfo)
+  local type, at = node.type, node.at + headerSize
+  if type.form then
+    local bytes = view.bytes:sub(at + 1, at + node.count)
+    return tree:add(fieldOf[type], range_of(view, node.at, node.size), readable(type, bytes))
+  elseif node.count == 0 then
+    return tree:add(fieldOf[type], range_of(view, node.at, node.size), "")
+  end
+  local value = range_of(view, at, node.count)
+  local item = tree:add(fieldOf[type], value)
+  if type.name == "NasMsg" and tarn.prefs.nas then
+    dissect_nas(value, pinfo, item)
+  end
+end
+
+local add_node
+
+local function add_parent(tree, node, view, pinfo)
+  local type = node.type
+  local item = tree:add(fieldOf[type], range_of(view, node.at, node.size))
+  local title = node.index and type.name .. "[" .. node.index .. "]" or node.name
+  if type.item then
+    title = title .. ": " .. counted(node.count, units[type.shape])
+  end
+  item:set_text(title)
+  for _, child in ipairs(node) do
+    add_node(item, child, view, pinfo)
+  end
+end
+
+function add_node(tree, node, view, pinfo)
+  local type = node.type
+  if type.shape == "scalar" then
+    tree:add(fieldOf[type], range_of(view, node.at, node.size), node.number)
+  elseif type.shape == "bytes" then
+    add_bytes(tree, node, view, pinfo)
+  elseif type.form == "Dotted" then
+    local address = Address.ip(dotted(node))
+    tree:add(fieldOf[type], range_of(view, node.at, node.size), address)
+  else
+    add_parent(tree, node, view, pinfo)
+  end
+end
+
+-- A finding is shown with the byte that it is about, or with the last one if the bytes have ended.
+local function add_finding(tree, found, kind, view)
+  local at = math.min(found.at, #view.bytes - 1)
+  local range = range_of(view, at, 1)
+  local item = tree:add(fields.finding, range, words(found))
+  item:add_proto_expert_info(kind, words(found))
+  item:add(fields.findingAt, range, found.at)
+  item:add(fields.findingPath, range, found.path)
+  item:add(fields.findingReason, range, found.reason)
+end
+
+-- ---- Requests and responses --------------------------------------------------------------------
+
+local responsesTo = {
+  UeContextRequest = { "UeContextAccept", "UeContextReject" },
+  IuReleaseRequest = { "IuReleaseCommand" },
+  IuReleaseCommand = { "IuReleaseComplete" },
+  SecurityModeCommand = { "SecurityModeComplete", "SecurityModeReject" },
+  RabAssignmentRequest = { "RabAssignmentResponse" },
+  RabReleaseRequest = { "RabReleaseResponse" },
+  UserPlaneConfigRequest = { "UserPlaneConfigResponse" },
+  UserPlaneModifyRequest = { "UserPlaneModifyResponse" },
+  RelocationRequired = { "RelocationCommand", "RelocationFailure" },
+  HandoverRequest = { "HandoverReqAck", "HandoverFailure" },
+  AccessControlRequest = { "AccessControlResponse" },
+}
+
+-- The mandatory numbers of a message, by their type.
+local function mandatory_numbers(message)
+  local found = {}
+  for _, slot in ipairs(message.slots) do
+    found[slot.type] = slot.isMandatory and slot.type.shape == "scalar" or nil
+  end
+  return found
+end
+
+-- A pair belongs together if they agree in each number that both must carry: the UE, and what else
+-- tells one procedure from another.
+local function make_pair(request, response)
+  local pair = { types = {}, waiting = {} }
+  local others = mandatory_numbers(request)
+  for _, slot in ipairs(response.slots) do
+    if others[slot.type] and slot.isMandatory then
+      pair.types[#pair.types + 1] = slot.type
+    end
+  end
+  return pair
+end
+
+-- By the message's row: the pairs in which it is the request, and those in which it is the response.
+local asRequest, asResponse = {}, {}
+
+local function add_to(lists, row, pair)
+  lists[row] = lists[row] or {}
+  table.insert(lists[row], pair)
+end
+
+local messagesByName = {}
+for _, message in ipairs(rows.messages) do
+  messagesByName[message.name] = message
+end
+for request, responses in pairs(responsesTo) do
+  for _, response in ipairs(responses) do
+    local pair = make_pair(messagesByName[request], messagesByName[response])
+    add_to(asRequest, messagesByName[request], pair)
+    add_to(asResponse, messagesByName[response], pair)
+  end
+end
+
+-- What is known of a message's partner, by the message's place in the capture.
+local links = {}
+
+-- Two messages of one packet begin at different bytes.
+local function place_of(view, pinfo)
+  return pinfo.number .. ":" .. view.tvb:offset() + view.start
+end
+
+-- Both ends in an order of their own, and the numbers that the pair goes by.
+local function pair_key(pair, root, pinfo)
+  local from = tostring(pinfo.src) .. ":" .. pinfo.src_port
+  local to = tostring(pinfo.dst) .. ":" .. pinfo.dst_port
+  local key = from < to and from .. " " .. to or to .. " " .. from
+  for _, type in ipairs(pair.types) do
+    for _, child in ipairs(root) do
+      key = child.type == type and key .. " " .. child.number or key
+    end
+  end
+  return key
+end
+
+-- The oldest request that waits for this response.
+local function take_request(pair, key)
+  local waiting = pair.waiting[key] or {}
+  while waiting[1] do
+    local link = table.remove(waiting, 1)
+    if not link.response then
+      return link
+    end
+  end
+end
+
+local function link_message(result, view, pinfo)
+  local place = place_of(view, pinfo)
+  for _, pair in ipairs(asResponse[result.message] or {}) do
+    local link = take_request(pair, pair_key(pair, result.root, pinfo))
+    if link then
+      link.response, link.seconds = pinfo.number, pinfo.rel_ts - link.seconds
+      links[place] = { asResponse = link }
+      break
+    end
+  end
+  for _, pair in ipairs(asRequest[result.message] or {}) do
+    links[place] = links[place] or {}
+    local link = links[place].asRequest or { request = pinfo.number, seconds = pinfo.rel_ts }
+    links[place].asRequest = link
+    local key = pair_key(pair, result.root, pinfo)
+    pair.waiting[key] = pair.waiting[key] or {}
+    table.insert(pair.waiting[key], link)
+  end
+end
+
+local function add_links(tree, place)
+  local link = links[place] or {}
+  if link.asRequest and link.asRequest.response then
+    tree:add(fields.responseIn, link.asRequest.response):set_generated()
+  end
+  if link.asResponse then
+    local seconds = link.asResponse.seconds
+    local whole = math.floor(seconds)
+    tree:add(fields.requestIn, link.asResponse.request):set_generated()
+    local time = NSTime.new(whole, math.floor((seconds - whole) * 1e9 + 0.5))
+    tree:add(fields.responseTime, time):set_generated()
+  end
+end
+
+function tarn.init()
+  links = {}
+  for _, pairs_ in pairs(asRequest) do
+    for _, pair in ipairs(pairs_) do
+      pair.waiting = {}
+    end
+  end
+end
+
+-- ---- A message ---------------------------------------------------------------------------------
+
+local ueTypes = { Srnti = "S-RNTI", AcUeId = "UE" }
+
+-- "UeContextAccept, S-RNTI 0x12001, UE 7001, valid"
+local function summary(result)
+  local text = result.message and result.message.name or "No known message"
+  for _, child in ipairs(result.root) do
+    if child.type.name == "Srnti" then
+      text = string.format("%s, S-RNTI 0x%x", text, child.number)
+    elseif child.type.name == "AcUeId" then
+      text = string.format("%s, UE %d", text, child.number)
+    end
+  end
+  return text .. ", " .. result.verdict
+end
+
+local function add_message(tree, result, view, pinfo)
+  local whole = range_of(view, 0, #view.bytes)
+  local item = tree:add(tarn, whole, "Tarn Signalling: " .. summary(result))
+  item:add(fields.message, whole, result.message and result.message.name or ""):set_generated()
+  item:add(fields.verdict, whole, result.verdict):set_generated()
+  add_links(item, place_of(view, pinfo))
+  for _, child in ipairs(result.root) do
+    add_node(item, child, view, pinfo)
+  end
+  local kind = result.verdict == "invalid" and experts.invalid or experts.refused
+  for _, fault in ipairs(result.faults) do
+    add_finding(item, fault, kind, view)
+  end
+  for _, note in ipairs(result.notes) do
+    add_finding(item, note, experts.letPass, view)
+  end
+end
+
+-- A fence keeps what was written for earlier messages of the packet.
+local function show_in_columns(result, pinfo)
+  local info = pinfo.cols.info
+  pinfo.cols.protocol = "TARN"
+  info:set(summary(result) .. "  ")
+  info:fence()
+end
+
+local function dissect_message(tvb, start, size, pinfo, tree)
+  local view = { tvb = tvb, start = start, bytes = tvb:raw(start, size) }
+  local result = read_message(view.bytes)
+  show_in_columns(result, pinfo)
+  if not pinfo.visited and result.verdict ~= "refused" then
+    link_message(result, view, pinfo)
+  end
+  add_message(tree, result, view, pinfo)
+  return result
+end
+
+-- ---- Streams -----------------------------------------------------------------------------------
+--
+-- A message in a stream has its length in front, 4 bytes, most significant first.
+
+local lengthSize = 4
+local magic = "\0\72\0\0\0\1" -- what every message begins with: tag and length of its MessageId
+
+local function begins_with_message(bytes, at)
+  return bytes:sub(at + 1, at + #magic) == magic
+end
+
+-- Whether a length and a message may begin here, as far as there are bytes; and that length.
+local function frame_at(bytes, at)
+  local left = #bytes - at
+  local size = left >= lengthSize and number_at(bytes, at, lengthSize) or 1
+  local start = bytes:sub(at + lengthSize + 1, at + lengthSize + #magic)
+  return size > 0 and size <= rows.largestMessage and magic:sub(1, #start) == start, size
+end
+
+-- Where the next frame begins behind `at`, or the end.
+local function next_frame(bytes, at)
+  repeat
+    at = at + 1
+  until at >= #bytes or frame_at(bytes, at)
+  return at
+end
+
+local function skip(tvb, at, size, pinfo, tree)
+  local item = tree:add(tarn, tvb(at, size), "Tarn Signalling: no message")
+  local text = counted(size, "byte") .. " that " .. (size == 1 and "is" or "are") .. " no message"
+  item:add(fields.skipped, tvb(at, size)):add_proto_expert_info(experts.skipped, text)
+  pinfo.cols.protocol = "TARN"
+  pinfo.cols.info:set("[" .. text .. "]  ")
+  pinfo.cols.info:fence()
+end
+
+-- Asks for more of the stream. Returns false if there is no more to be had.
+local function wait_for(count, at, pinfo)
+  if pinfo.can_desegment == 0 then
+    return false
+  end
+  pinfo.desegment_offset, pinfo.desegment_len = at, count
+  return true
+end
+
+-- Each of these takes what stands at a place of a stream and returns the place behind it, or nil to
+-- wait for more.
+local function dissect_frame(tvb, bytes, at, pinfo, tree)
+  local left = #bytes - at
+  local size = left >= lengthSize and select(2, frame_at(bytes, at))
+  local missing = size and lengthSize + size - left or DESEGMENT_ONE_MORE_SEGMENT
+  if missing > 0 and wait_for(missing, at, pinfo) then
+    return nil
+  elseif left <= lengthSize then
+    skip(tvb, at, left, pinfo, tree)
+    return #bytes
+  end
+  tree:add(fields.length, tvb(at, lengthSize))
+  size = math.min(size, left - lengthSize)
+  dissect_message(tvb, at + lengthSize, size, pinfo, tree)
+  return at + lengthSize + size
+end
+
+-- A sender may write length and message one after the other, so that a segment begins with the
+-- message. It ends with the segment, or where a next length follows.
+local function dissect_unframed(tvb, bytes, pinfo, tree)
+  local size = read_message(bytes).taken
+  if size == 0 or not frame_at(bytes, size) then
+    size = #bytes
+  end
+  dissect_message(tvb, 0, size, pinfo, tree)
+  return size
+end
+
+local function dissect_stream(tvb, pinfo, tree)
+  local bytes, at = tvb:raw(), 0
+  if begins_with_message(bytes, 0) then
+    at = dissect_unframed(tvb, bytes, pinfo, tree)
+  end
+  while at and at < #bytes do
+    if frame_at(bytes, at) then
+      at = dissect_frame(tvb, bytes, at, pinfo, tree)
+    else
+      local behind = next_frame(bytes, at)
+      skip(tvb, at, behind - at, pinfo, tree)
+      at = behind
+    end
+  end
+  return #bytes
+end
+
+-- ---- Where messages are found ------------------------------------------------------------------
+
+-- Only TCP offers to desegment. A frame elsewhere is read as well.
+function tarn.dissector(tvb, pinfo, tree)
+  local bytes = tvb:raw()
+  if #bytes == 0 then
+    return 0
+  elseif pinfo.can_desegment > 0 or (#bytes > lengthSize and frame_at(bytes, 0)) then
+    return dissect_stream(tvb, pinfo, tree)
+  end
+  dissect_message(tvb, 0, #bytes, pinfo, tree)
+  return #bytes
+end
+
+local function find_datagram(tvb, pinfo, tree)
+  if not begins_with_message(tvb:raw(0, math.min(tvb:len(), #magic)), 0) then
+    return false
+  end
+  dissect_message(tvb, 0, tvb:len(), pinfo, tree)
+  return true
+end
+
+-- Calls the function and not the dissector: Wireshark would let that one no longer desegment.
+local function find_stream(tvb, pinfo, tree)
+  local first = tvb:raw(0, math.min(tvb:len(), lengthSize + #magic))
+  local isFrame = #first == lengthSize + #magic and frame_at(first, 0)
+  if not isFrame and not begins_with_message(first, 0) then
+    return false
+  end
+  pinfo.conversation = tarn
+  dissect_stream(tvb, pinfo, tree)
+  return true
+end
+
+tarn:register_heuristic("udp", find_datagram)
+tarn:register_heuristic("sctp", find_datagram)
+tarn:register_heuristic("tcp", find_stream)
+
+local portTables = {}
+for _, name in ipairs({ "udp.port", "sctp.port", "tcp.port" }) do
+  portTables[name] = DissectorTable.get(name)
+  portTables[name]:add_for_decode_as(tarn)
+end
+local linkTypes = DissectorTable.get("wtap_encap")
+local firstUserLinkType = 147
+
+-- Calls the function with each range of "147,150-152".
+local function each_range(text, call)
+  for least, greatest in text:gmatch("(%d+)%-?(%d*)") do
+    call(tonumber(least), tonumber(greatest) or tonumber(least))
+  end
+end
+
+local registered = { ports = "", linkTypes = "" }
+
+local function register(ports, types, verb)
+  for _, portTable in pairs(portTables) do
+    if ports ~= "" then
+      portTable[verb](portTable, ports, tarn)
+    end
+  end
+  each_range(types, function(least, greatest)
+    for type = math.max(least, firstUserLinkType), greatest do
+      linkTypes[verb](linkTypes, wtap_encaps.USER0 + type - firstUserLinkType, tarn)
+    end
+  end)
+end
+
+local function apply_preferences()
+  register(registered.ports, registered.linkTypes, "remove")
+  registered = { ports = tarn.prefs.ports, linkTypes = tarn.prefs.link_types }
+  register(registered.ports, registered.linkTypes, "add")
+end
+
+function tarn.prefs_changed()
+  apply_preferences()
+end
+
+apply_preferences()

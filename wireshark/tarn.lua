@@ -529,32 +529,40 @@ for _, message in ipairs(rows.messages) do
   messagesById[message.id] = message
 end
 
--- ---- Words -------------------------------------------------------------------------------------
-
-local reasons = {
-  missingAtEnd = "missing: the bytes end before {ie}",
-  missingInRecord = "missing: the length of {ie} is used up after {taken}",
-  missingCalledFor = "missing: it is required where {condition}",
-  otherThanCalledFor = "missing: it is required where {condition}; found {found}",
-  uncalled = "not allowed here: it stands only where {condition}",
-  otherTag = "expected {ie}, found {found}",
-  truncatedHeader = "truncated header: tag and length take 6 bytes, but only {left}",
-  wrongWidth = "its length field says {declared}, where {name} takes exactly {width}",
-  tooFewLeft = "its length field says {declared}, but only {left}",
-  beyondCapacity = "its length field says {declared}, more than the {capacity} bytes that {name} can hold",
-  oneItemTooMany = "one more than the {count} items that {name} can hold",
-  below = "{number} is below {least}",
-  above = "{number} is above {greatest}",
-  wrongCount = "{count}, where {range} are allowed",
-  endsInList = "its length field says {declared}, but the bytes end after {taken}",
-  passesEnd = "passes the end of {list}, whose length field says {declared}",
-  unknownMessage = "no message has the id {id}",
-  otherLength = "its length field says {declared}, but the {parts} read take {taken}",
-  ignored = "{count} ignored",
-  ignoredFrom = "{count} ignored, from {found} on",
-  ignoredForeign = "{count} ignored, from {found} on, which is no IE of {message}",
-  ignoredOrder = "{count} ignored, from {found} on, which stands twice or out of order",
+rows.reasons = {
+  BytesEnd = "missing: the bytes end before {ie}",
+  WrongTag = "expected {ie}, found {found}",
+  HeaderCut = "truncated header: tag and length take 6 bytes, but only {number} {number:remains}",
+  WrongWidth = "its length field says {number}, where {name} takes exactly {width}",
+  LengthBeyondBytes = "its length field says {number}, but only {other:byte} {other:remains}",
+  LengthBeyondArray = "its length field says {number}, more than the {capacity} bytes that {name} can hold",
+  MemberMissing = "missing: the length of {ie} is used up after {number:byte}",
+  TooManyItems = "one more than the {capacity} items that {name} can hold",
+  ListEnds = "its length field says {number}, but the bytes end after {other}",
+  ElementBeyondList = "passes the end of {owner}, whose length field says {number}",
+  UnknownMessageId = "no message has the id {number}",
+  NoMessage = "no message",
+  BelowLeast = "{number} is below {least}",
+  AboveGreatest = "{number} is above {greatest}",
+  CountOutOfRange = "{number:unit}, where {range} are allowed",
+  Missing = "missing: it is mandatory",
+  Needed = "missing: it is required where {condition}",
+  NeededButFound = "missing: it is required where {condition}; found {found}",
+  NotCalledFor = "not allowed here: it stands only where {condition}",
+  Foreign = "{found} does not belong here",
+  BufferTooSmall = "the message takes {number:byte}, but the buffer holds {other}",
+  LengthDiffers = "its length field says {number}, but the {parts} read take {other:byte}",
+  Ignored = "{number:byte} ignored",
+  IgnoredFrom = "{number:byte} ignored, from {found} on",
+  IgnoredForeign = "{number:byte} ignored, from {found} on, which is no IE of {message}",
+  IgnoredUnordered = "{number:byte} ignored, from {found} on, which stands twice or out of order",
 }
+
+for name, form in pairs({ IpAddress = "Dotted", Imsi = "Digits", NasUeId = "Digits",
+  PLMNId = "MccMnc", TempUeIdValue = "HexNumber", LAC = "HexNumber", CI = "HexNumber" }) do
+  typesByName[name].form = form
+end
+-- ---- Words -------------------------------------------------------------------------------------
 
 local function number_text(number)
   return string.format("%d", number)
@@ -569,15 +577,46 @@ local function label_of_tag(tag)
   return type and type.label or "unknown tag " .. tag
 end
 
-local function remaining(text, left)
-  return text .. (left == 1 and " remains" or " remain")
-end
+local units = { bytes = "byte", list = "item", compositeList = "element" }
 
 local function range_text(type)
   if type.least == type.greatest then
     return "exactly " .. number_text(type.least)
   end
   return number_text(type.least) .. " to " .. number_text(type.greatest)
+end
+
+-- What the place holders of a sentence stand for; `type` is that of the IE told of.
+local placeHolders = {
+  ie = function(type) return type.label end,
+  name = function(type) return type.name end,
+  width = function(type) return counted(type.width, "byte") end,
+  least = function(type) return number_text(type.least) end,
+  greatest = function(type) return number_text(type.greatest) end,
+  capacity = function(type) return number_text(type.capacity) end,
+  range = range_text,
+  parts = function(type) return type.item and "items" or "parts" end,
+  found = function(_, values) return label_of_tag(values.found) end,
+  owner = function(_, values) return values.owner end,
+  condition = function(_, values) return values.condition.meaning end,
+  message = function(_, values) return values.message.name end,
+}
+
+-- How a number may stand in a sentence: {number}, {other:byte}.
+local numberForms = {
+  [""] = number_text,
+  byte = function(number) return counted(number, "byte") end,
+  unit = function(number, type) return counted(number, units[type.shape]) end,
+  remains = function(number) return number == 1 and "remains" or "remain" end,
+}
+
+local function sentence(reason, type, values)
+  return (rows.reasons[reason]:gsub("{(%w+):?(%w*)}", function(name, form)
+    if placeHolders[name] then
+      return placeHolders[name](type, values)
+    end
+    return numberForms[form](values[name], type)
+  end))
 end
 
 local function path_of(node)
@@ -591,9 +630,11 @@ local function path_of(node)
   return path == "" and node.name or path .. "." .. node.name
 end
 
--- Something found: at a byte, in an IE, for a reason, in words.
+-- Something found: at a byte, in an IE, for a reason. `values` holds what its sentence needs beyond
+-- the IE's own row; its `type` stands in for that row.
 local function finding(node, at, reason, values)
-  local what = reasons[reason]:gsub("{(%w+)}", values)
+  values = values or {}
+  local what = sentence(reason, values.type or node.type, values)
   return { at = at, path = path_of(node), reason = reason, what = what }
 end
 
@@ -634,37 +675,30 @@ local function read_header(walk, node)
   local at, left, type = walk.at, walk.length - walk.at, node.type
   node.at = at
   if left == 0 then
-    return finding(node, at, "missingAtEnd", { ie = type.label })
+    return finding(node, at, "BytesEnd")
   end
   local tag = tag_at(walk)
   if left >= tagSize and tag ~= type.tag then
-    return finding(node, at, "otherTag", { ie = type.label, found = label_of_tag(tag) })
+    return finding(node, at, "WrongTag", { found = tag })
   end
   if left < headerSize then
-    return finding(node, at, "truncatedHeader", { left = remaining(number_text(left), left) })
+    return finding(node, at, "HeaderCut", { number = left })
   end
   node.declared = number_at(walk.bytes, at + tagSize, headerSize - tagSize)
   walk.at = at + headerSize
 end
 
 local function too_few_left(walk, node)
-  local left = walk.length - node.at - headerSize
-  return finding(node, node.at + tagSize, "tooFewLeft", {
-    declared = number_text(node.declared),
-    left = remaining(counted(left, "byte"), left),
-  })
+  local values = { number = node.declared, other = walk.length - node.at - headerSize }
+  return finding(node, node.at + tagSize, "LengthBeyondBytes", values)
 end
 
 -- Notes a length field that disagrees with what was read.
 local function note_length(walk, node)
   local taken = walk.at - node.at - headerSize
   if node.declared ~= taken then
-    local isList = node.type.item ~= nil
-    walk.notes[#walk.notes + 1] = finding(node, node.at + tagSize, "otherLength", {
-      declared = number_text(node.declared),
-      parts = isList and "items" or "parts",
-      taken = counted(taken, "byte"),
-    })
+    local values = { number = node.declared, other = taken }
+    walk.notes[#walk.notes + 1] = finding(node, node.at + tagSize, "LengthDiffers", values)
   end
 end
 
@@ -680,11 +714,7 @@ end
 function readers.scalar(walk, node)
   local type, at = node.type, walk.at
   if node.declared ~= type.width then
-    return finding(node, node.at + tagSize, "wrongWidth", {
-      declared = number_text(node.declared),
-      name = type.name,
-      width = counted(type.width, "byte"),
-    })
+    return finding(node, node.at + tagSize, "WrongWidth", { number = node.declared })
   end
   if node.declared > walk.length - at then
     return too_few_left(walk, node)
@@ -699,11 +729,7 @@ function readers.bytes(walk, node)
     return too_few_left(walk, node)
   end
   if node.declared > type.capacity then
-    return finding(node, node.at + tagSize, "beyondCapacity", {
-      declared = number_text(node.declared),
-      capacity = type.capacity,
-      name = type.name,
-    })
+    return finding(node, node.at + tagSize, "LengthBeyondArray", { number = node.declared })
   end
   node.count = node.declared
   walk.at = walk.at + node.declared
@@ -719,10 +745,8 @@ function readers.record(walk, node)
   for i, type in ipairs(node.type.members) do
     local member = new_node(node, type, type.name)
     if walk.at - start >= node.declared then
-      return finding(member, walk.at, "missingInRecord", {
-        ie = node.type.label,
-        taken = counted(walk.at - start, "byte"),
-      })
+      local values = { type = node.type, number = walk.at - start }
+      return finding(member, walk.at, "MemberMissing", values)
     end
     local fault = read_value(walk, member)
     if fault then
@@ -742,7 +766,7 @@ function readers.list(walk, node)
   while walk.at - start < node.declared do
     local item = new_node(node, type.item, type.item.name, node.count)
     if node.count == type.capacity then
-      return finding(item, walk.at, "oneItemTooMany", { count = node.count, name = type.name })
+      return finding(item, walk.at, "TooManyItems", { type = type })
     end
     local fault = read_value(walk, item)
     if fault then
@@ -756,23 +780,20 @@ end
 
 -- ---- Ranges ------------------------------------------------------------------------------------
 
-local function count_fault(node, at, unit)
+local function count_fault(node, at)
   local type = node.type
   if node.count < type.least or node.count > type.greatest then
-    return finding(node, at, "wrongCount", {
-      count = counted(node.count, unit),
-      range = range_text(type),
-    })
+    return finding(node, at, "CountOutOfRange", { number = node.count })
   end
 end
 
 local function number_fault(node)
   local type, number, at = node.type, node.number, node.at + headerSize
   if number < type.least then
-    return finding(node, at, "below", { number = number, least = number_text(type.least) })
+    return finding(node, at, "BelowLeast", { number = number })
   end
   if number > type.greatest then
-    return finding(node, at, "above", { number = number, greatest = number_text(type.greatest) })
+    return finding(node, at, "AboveGreatest", { number = number })
   end
 end
 
@@ -782,9 +803,9 @@ local function find_invalid(node)
   if shape == "scalar" then
     return number_fault(node)
   elseif shape == "bytes" then
-    return count_fault(node, node.at + headerSize, "byte")
+    return count_fault(node, node.at + headerSize)
   elseif shape == "list" then
-    fault = count_fault(node, node.at + headerSize, "item")
+    fault = count_fault(node, node.at + headerSize)
   end
   for i = 1, fault and 0 or #node do
     fault = fault or find_invalid(node[i])
@@ -818,8 +839,7 @@ local function unmet_condition(owner, slots)
 end
 
 local function needed(owner, slot, at)
-  local values = { condition = slot.condition.meaning }
-  return finding(new_node(owner, slot.type, slot.name), at, "missingCalledFor", values)
+  return finding(new_node(owner, slot.type, slot.name), at, "Needed", slot)
 end
 
 local read_slots, read_elements
@@ -844,7 +864,7 @@ local function read_composite(walk, node)
   if unmet then
     return "invalid", needed(node, unmet, walk.at)
   end
-  fault = type.item and count_fault(node, node.at, "element")
+  fault = type.item and count_fault(node, node.at)
   return fault and "invalid" or "valid", fault
 end
 
@@ -871,15 +891,13 @@ local function refusal(walk, owner, row, slot, node, outcome, fault)
   end
   local stoodThere = tag_at(walk) == slot.type.tag
   if outcome == "valid" then
-    fault = finding(node, walk.at, "uncalled", { condition = slot.condition.meaning })
+    fault = finding(node, walk.at, "NotCalledFor", slot)
   end
   if slot.condition then
     local calledFor = is_called_for(owner, slot)
     if outcome == "absent" and calledFor and not stoodThere then
-      fault = finding(node, fault.at, "otherThanCalledFor", {
-        condition = slot.condition.meaning,
-        found = label_of_tag(tag_at(walk)),
-      })
+      local values = { condition = slot.condition, found = tag_at(walk) }
+      fault = finding(node, fault.at, "NeededButFound", values)
     end
     local refuses = calledFor
     if outcome ~= "absent" then
@@ -929,8 +947,7 @@ local function end_of_bytes(walk, owner, row, next)
   for i = next, #row.slots do
     local slot = row.slots[i]
     if slot.isMandatory then
-      local missing = new_node(owner, slot.type, slot.name)
-      return finding(missing, walk.at, "missingAtEnd", { ie = slot.type.label })
+      return finding(new_node(owner, slot.type, slot.name), walk.at, "BytesEnd")
     end
     local mayRefuse = slot.condition and row.rule == "dropUncalledRequireAtEnd"
     if mayRefuse and is_called_for(owner, slot) then
@@ -957,10 +974,8 @@ function read_elements(walk, list, type)
   list.count = 0
   while walk.at - start < list.declared do
     if walk.at == walk.length then
-      return finding(list, start - headerSize + tagSize, "endsInList", {
-        declared = number_text(list.declared),
-        taken = number_text(walk.at - start),
-      })
+      local values = { number = list.declared, other = walk.at - start }
+      return finding(list, start - headerSize + tagSize, "ListEnds", values)
     end
     local at, noteCount = walk.at, #walk.notes
     local element = new_node(list, type.item, type.item.name, list.count)
@@ -974,10 +989,8 @@ function read_elements(walk, list, type)
     end
     list.count = list.count + 1
     if walk.at - start > list.declared then
-      return finding(element, walk.at, "passesEnd", {
-        list = path_of(list),
-        declared = number_text(list.declared),
-      })
+      local values = { owner = path_of(list), number = list.declared }
+      return finding(element, walk.at, "ElementBeyondList", values)
     end
   end
 end
@@ -1012,21 +1025,18 @@ local function explain_rest(walk, root, message)
   if left == 0 then
     return
   end
-  local reason, tag = "ignored", tag_at(walk)
+  local reason, tag = "Ignored", tag_at(walk)
   local last = walk.leftOut[#walk.leftOut]
   if left >= headerSize then
-    reason = "ignoredFrom"
+    reason = "IgnoredFrom"
     if not belongs(message, tag) then
-      reason = "ignoredForeign"
+      reason = "IgnoredForeign"
     elseif not last or last.at ~= walk.at then
-      reason = "ignoredOrder"
+      reason = "IgnoredUnordered"
     end
   end
-  walk.notes[#walk.notes + 1] = finding(root, walk.at, reason, {
-    count = counted(left, "byte"),
-    found = label_of_tag(tag),
-    message = message.name,
-  })
+  local values = { number = left, found = tag, message = message }
+  walk.notes[#walk.notes + 1] = finding(root, walk.at, reason, values)
   add_left_out(walk, walk.at, walk.notes)
 end
 
@@ -1038,7 +1048,7 @@ local function read_message_id(walk, root)
   end
   root[1] = node
   local message = messagesById[node.number]
-  return message, not message and finding(node, headerSize, "unknownMessage", { id = node.number })
+  return message, not message and finding(node, headerSize, "UnknownMessageId", node)
 end
 
 -- Reads the bytes of one message, a string. The result: the message's row if it is known, the IEs
@@ -1064,11 +1074,46 @@ local function read_message(bytes)
   return result
 end
 
+-- ---- Readable forms ----------------------------------------------------------------------------
+
+local function hex(bytes)
+  return (bytes:gsub(".", function(c)
+    return string.format("%02x", byte(c))
+  end))
+end
+
+-- The half bytes as hex digits, the low half first.
+local function half_bytes(bytes)
+  return (hex(bytes):gsub("(.)(.)", "%2%1"))
+end
+
+local forms = {}
+
+-- ASCII digits with zeros behind them, or one digit in each half byte up to a half byte of 15.
+function forms.Digits(bytes)
+  return bytes:match("^(%d+)%z*$") or half_bytes(bytes):match("^(%d+)f*$")
+end
+
+-- Half bytes: three digits of the MCC, the third of the MNC or 15, the first and second of the MNC.
+function forms.MccMnc(bytes)
+  local mcc, third, mnc = half_bytes(bytes):match("^(%d%d%d)([%df])(%d%d)$")
+  return mcc and mcc .. "-" .. mnc .. third:gsub("f", "")
+end
+
+function forms.HexNumber(bytes)
+  return tonumber(hex(bytes), 16)
+end
+
+-- A byte string as people read it, where its row names a form and the bytes have it; else in hex.
+local function readable(type, bytes)
+  return forms[type.form](bytes) or hex(bytes)
+end
+
 local engine = {
   rows = rows,
   read_message = read_message,
   words = words,
-  path_of = path_of,
+  readable = readable,
   messagesById = messagesById,
   headerSize = headerSize,
 }
@@ -1077,3 +1122,528 @@ if not Proto then
   return engine -- Wireshark is not here
 end
 
+-- ---- Wireshark's part --------------------------------------------------------------------------
+
+local tarn = Proto("tarn", "Tarn Signalling")
+
+tarn.prefs.ports = Pref.range("Ports", "", "Ports of UDP, SCTP and TCP that carry messages. " ..
+  "Elsewhere messages are found by their first bytes.", 65535)
+tarn.prefs.link_types = Pref.range("User link types", "147", "Link types, 147 to 162, of captures " ..
+  "that hold one message in each packet and nothing around it.", 162)
+tarn.prefs.nas = Pref.bool("Dissect NAS messages", true, "Hand the content of NasMsg to the " ..
+  "dissector of GSM and UMTS NAS.")
+
+-- ---- Fields ------------------------------------------------------------------------------------
+
+local fields = {
+  message = ProtoField.string("tarn.message", "Message"),
+  verdict = ProtoField.string("tarn.verdict", "Verdict", base.NONE,
+    "valid; invalid: decodes and breaks a rule; refused: does not decode"),
+  finding = ProtoField.string("tarn.finding", "Finding"),
+  findingAt = ProtoField.uint32("tarn.finding.offset", "Byte of the message", base.DEC_HEX),
+  findingPath = ProtoField.string("tarn.finding.path", "IE"),
+  findingReason = ProtoField.string("tarn.finding.reason", "Reason"),
+  length = ProtoField.uint32("tarn.length", "Length in front", base.DEC),
+  skipped = ProtoField.bytes("tarn.skipped", "Bytes that are no message"),
+  requestIn = ProtoField.framenum("tarn.request_in", "Request in", base.NONE, frametype.REQUEST),
+  responseIn = ProtoField.framenum("tarn.response_in", "Response in", base.NONE,
+    frametype.RESPONSE),
+  responseTime = ProtoField.relative_time("tarn.response_time", "Response time"),
+}
+
+local experts = {
+  refused = ProtoExpert.new("tarn.refused", "Does not decode", expert.group.MALFORMED,
+    expert.severity.ERROR),
+  invalid = ProtoExpert.new("tarn.invalid", "Decodes and is not valid", expert.group.PROTOCOL,
+    expert.severity.WARN),
+  letPass = ProtoExpert.new("tarn.let_pass", "Let pass", expert.group.PROTOCOL,
+    expert.severity.NOTE),
+  skipped = ProtoExpert.new("tarn.no_message", "Bytes that are no message",
+    expert.group.UNDECODED, expert.severity.WARN),
+  nas = ProtoExpert.new("tarn.nas", "The NAS message does not decode", expert.group.UNDECODED,
+    expert.severity.NOTE),
+}
+
+local uintFields = { ProtoField.uint8, ProtoField.uint16, [4] = ProtoField.uint32 }
+
+-- Valid byte strings that are shown as a number are of one length.
+local function make_field(type)
+  local filter, name, term = "tarn." .. type.name:lower(), type.name, type.term
+  if type == messageIdType then
+    local names = {}
+    for id, message in pairs(messagesById) do
+      names[id] = message.name
+    end
+    return ProtoField.uint8(filter, name, base.DEC, names, nil, term)
+  elseif type.shape == "scalar" then
+    return uintFields[type.width](filter, name, base.DEC_HEX, nil, nil, term)
+  elseif type.form == "HexNumber" then
+    return uintFields[type.greatest](filter, name, base.HEX, nil, nil, term)
+  elseif type.form == "Dotted" then
+    return ProtoField.ipv4(filter, name, term)
+  elseif type.form then
+    return ProtoField.string(filter, name, base.NONE, term)
+  elseif type.shape == "bytes" then
+    return ProtoField.bytes(filter, name, base.SPACE, term)
+  end
+  return ProtoField.none(filter, name, term)
+end
+
+local allFields, fieldOf = {}, {}
+for _, field in pairs(fields) do
+  allFields[#allFields + 1] = field
+end
+for _, type in ipairs(rows.types) do
+  fieldOf[type] = make_field(type)
+  allFields[#allFields + 1] = fieldOf[type]
+end
+tarn.fields = allFields
+
+local allExperts = {}
+for _, field in pairs(experts) do
+  allExperts[#allExperts + 1] = field
+end
+tarn.experts = allExperts
+
+-- ---- Trees -------------------------------------------------------------------------------------
+--
+-- A view is one message in a packet: the packet's buffer, the message's first byte and its size
+-- there, and its bytes as a string.
+
+local nasDissector = Dissector.get("gsm_a_dtap")
+
+-- A NAS message that is malformed throws through the call, and leaves behind that nothing more may
+-- be desegmented: the rest of a TCP stream would be lost.
+local function dissect_nas(range, pinfo, item)
+  local canDesegment = pinfo.can_desegment
+  local isDissected = pcall(nasDissector.call, nasDissector, range:tvb(), pinfo, item)
+  pinfo.can_desegment = canDesegment
+  if not isDissected then
+    item:add_proto_expert_info(experts.nas)
+  end
+end
+
+local function range_of(view, at, size)
+  return view.tvb(view.start + at, size)
+end
+
+local function dotted(node)
+  local parts = {}
+  for i, part in ipairs(node) do
+    parts[i] = part.number
+  end
+  return table.concat(parts, ".")
+end
+
+local function add_bytes(tree, node, view, pinfo)
+  local type, at = node.type, node.at + headerSize
+  if type.form then
+    local bytes = view.bytes:sub(at + 1, at + node.count)
+    return tree:add(fieldOf[type], range_of(view, node.at, node.size), readable(type, bytes))
+  elseif node.count == 0 then
+    return tree:add(fieldOf[type], range_of(view, node.at, node.size), "")
+  end
+  local value = range_of(view, at, node.count)
+  local item = tree:add(fieldOf[type], value)
+  if type.name == "NasMsg" and tarn.prefs.nas then
+    dissect_nas(value, pinfo, item)
+  end
+end
+
+local add_node
+
+local function add_parent(tree, node, view, pinfo)
+  local type = node.type
+  local item = tree:add(fieldOf[type], range_of(view, node.at, node.size))
+  local title = node.index and type.name .. "[" .. node.index .. "]" or node.name
+  if type.item then
+    title = title .. ": " .. counted(node.count, units[type.shape])
+  end
+  item:set_text(title)
+  for _, child in ipairs(node) do
+    add_node(item, child, view, pinfo)
+  end
+end
+
+function add_node(tree, node, view, pinfo)
+  local type = node.type
+  if type.shape == "scalar" then
+    tree:add(fieldOf[type], range_of(view, node.at, node.size), node.number)
+  elseif type.shape == "bytes" then
+    add_bytes(tree, node, view, pinfo)
+  elseif type.form == "Dotted" then
+    local address = Address.ip(dotted(node))
+    tree:add(fieldOf[type], range_of(view, node.at, node.size), address)
+  else
+    add_parent(tree, node, view, pinfo)
+  end
+end
+
+-- A finding is shown with the byte that it is about, or with the last one if the bytes have ended.
+local function add_finding(tree, found, kind, view)
+  local at = math.min(found.at, #view.bytes - 1)
+  local range = range_of(view, at, 1)
+  local item = tree:add(fields.finding, range, words(found))
+  item:add_proto_expert_info(kind, words(found))
+  item:add(fields.findingAt, range, found.at)
+  item:add(fields.findingPath, range, found.path)
+  item:add(fields.findingReason, range, found.reason)
+end
+
+-- ---- Requests and responses --------------------------------------------------------------------
+
+local responsesTo = {
+  UeContextRequest = { "UeContextAccept", "UeContextReject" },
+  IuReleaseRequest = { "IuReleaseCommand" },
+  IuReleaseCommand = { "IuReleaseComplete" },
+  SecurityModeCommand = { "SecurityModeComplete", "SecurityModeReject" },
+  RabAssignmentRequest = { "RabAssignmentResponse" },
+  RabReleaseRequest = { "RabReleaseResponse" },
+  UserPlaneConfigRequest = { "UserPlaneConfigResponse" },
+  UserPlaneModifyRequest = { "UserPlaneModifyResponse" },
+  RelocationRequired = { "RelocationCommand", "RelocationFailure" },
+  HandoverRequest = { "HandoverReqAck", "HandoverFailure" },
+  AccessControlRequest = { "AccessControlResponse" },
+}
+
+-- The mandatory numbers of a message, by their type.
+local function mandatory_numbers(message)
+  local found = {}
+  for _, slot in ipairs(message.slots) do
+    found[slot.type] = slot.isMandatory and slot.type.shape == "scalar" or nil
+  end
+  return found
+end
+
+-- A pair belongs together if they agree in each number that both must carry: the UE, and what else
+-- tells one procedure from another.
+local function make_pair(request, response)
+  local pair = { types = {}, waiting = {} }
+  local others = mandatory_numbers(request)
+  for _, slot in ipairs(response.slots) do
+    if others[slot.type] and slot.isMandatory then
+      pair.types[#pair.types + 1] = slot.type
+    end
+  end
+  return pair
+end
+
+-- By the message's row: the pairs in which it is the request, and those in which it is the response.
+local asRequest, asResponse = {}, {}
+
+local function add_to(lists, row, pair)
+  lists[row] = lists[row] or {}
+  table.insert(lists[row], pair)
+end
+
+local messagesByName = {}
+for _, message in ipairs(rows.messages) do
+  messagesByName[message.name] = message
+end
+for request, responses in pairs(responsesTo) do
+  for _, response in ipairs(responses) do
+    local pair = make_pair(messagesByName[request], messagesByName[response])
+    add_to(asRequest, messagesByName[request], pair)
+    add_to(asResponse, messagesByName[response], pair)
+  end
+end
+
+-- What is known of a message's partner, by the message's place in the capture.
+local links = {}
+
+-- Two messages of one packet begin at different bytes.
+local function place_of(view, pinfo)
+  return pinfo.number .. ":" .. view.tvb:offset() + view.start
+end
+
+-- Both ends in an order of their own, and the numbers that the pair goes by.
+local function pair_key(pair, root, pinfo)
+  local from = tostring(pinfo.src) .. ":" .. pinfo.src_port
+  local to = tostring(pinfo.dst) .. ":" .. pinfo.dst_port
+  local key = from < to and from .. " " .. to or to .. " " .. from
+  for _, type in ipairs(pair.types) do
+    for _, child in ipairs(root) do
+      key = child.type == type and key .. " " .. child.number or key
+    end
+  end
+  return key
+end
+
+-- The oldest request that waits for this response.
+local function take_request(pair, key)
+  local waiting = pair.waiting[key] or {}
+  while waiting[1] do
+    local link = table.remove(waiting, 1)
+    if not link.response then
+      return link
+    end
+  end
+end
+
+local function link_message(result, view, pinfo)
+  local place = place_of(view, pinfo)
+  for _, pair in ipairs(asResponse[result.message] or {}) do
+    local link = take_request(pair, pair_key(pair, result.root, pinfo))
+    if link then
+      link.response, link.seconds = pinfo.number, pinfo.rel_ts - link.seconds
+      links[place] = { asResponse = link }
+      break
+    end
+  end
+  for _, pair in ipairs(asRequest[result.message] or {}) do
+    links[place] = links[place] or {}
+    local link = links[place].asRequest or { request = pinfo.number, seconds = pinfo.rel_ts }
+    links[place].asRequest = link
+    local key = pair_key(pair, result.root, pinfo)
+    pair.waiting[key] = pair.waiting[key] or {}
+    table.insert(pair.waiting[key], link)
+  end
+end
+
+local function add_links(tree, place)
+  local link = links[place] or {}
+  if link.asRequest and link.asRequest.response then
+    tree:add(fields.responseIn, link.asRequest.response):set_generated()
+  end
+  if link.asResponse then
+    local seconds = link.asResponse.seconds
+    local whole = math.floor(seconds)
+    tree:add(fields.requestIn, link.asResponse.request):set_generated()
+    local time = NSTime.new(whole, math.floor((seconds - whole) * 1e9 + 0.5))
+    tree:add(fields.responseTime, time):set_generated()
+  end
+end
+
+function tarn.init()
+  links = {}
+  for _, pairs_ in pairs(asRequest) do
+    for _, pair in ipairs(pairs_) do
+      pair.waiting = {}
+    end
+  end
+end
+
+-- ---- A message ---------------------------------------------------------------------------------
+
+local ueTypes = { Srnti = "S-RNTI", AcUeId = "UE" }
+
+-- "UeContextAccept, S-RNTI 0x12001, UE 7001, valid"
+local function summary(result)
+  local text = result.message and result.message.name or "No known message"
+  for _, child in ipairs(result.root) do
+    if child.type.name == "Srnti" then
+      text = string.format("%s, S-RNTI 0x%x", text, child.number)
+    elseif child.type.name == "AcUeId" then
+      text = string.format("%s, UE %d", text, child.number)
+    end
+  end
+  return text .. ", " .. result.verdict
+end
+
+local function add_message(tree, result, view, pinfo)
+  local whole = range_of(view, 0, #view.bytes)
+  local item = tree:add(tarn, whole, "Tarn Signalling: " .. summary(result))
+  item:add(fields.message, whole, result.message and result.message.name or ""):set_generated()
+  item:add(fields.verdict, whole, result.verdict):set_generated()
+  add_links(item, place_of(view, pinfo))
+  for _, child in ipairs(result.root) do
+    add_node(item, child, view, pinfo)
+  end
+  local kind = result.verdict == "invalid" and experts.invalid or experts.refused
+  for _, fault in ipairs(result.faults) do
+    add_finding(item, fault, kind, view)
+  end
+  for _, note in ipairs(result.notes) do
+    add_finding(item, note, experts.letPass, view)
+  end
+end
+
+-- A fence keeps what was written for earlier messages of the packet.
+local function show_in_columns(result, pinfo)
+  local info = pinfo.cols.info
+  pinfo.cols.protocol = "TARN"
+  info:set(summary(result) .. "  ")
+  info:fence()
+end
+
+local function dissect_message(tvb, start, size, pinfo, tree)
+  local view = { tvb = tvb, start = start, bytes = tvb:raw(start, size) }
+  local result = read_message(view.bytes)
+  show_in_columns(result, pinfo)
+  if not pinfo.visited and result.verdict ~= "refused" then
+    link_message(result, view, pinfo)
+  end
+  add_message(tree, result, view, pinfo)
+  return result
+end
+
+-- ---- Streams -----------------------------------------------------------------------------------
+--
+-- A message in a stream has its length in front, 4 bytes, most significant first.
+
+local lengthSize = 4
+local magic = "\0\72\0\0\0\1" -- what every message begins with: tag and length of its MessageId
+
+local function begins_with_message(bytes, at)
+  return bytes:sub(at + 1, at + #magic) == magic
+end
+
+-- Whether a length and a message may begin here, as far as there are bytes; and that length.
+local function frame_at(bytes, at)
+  local left = #bytes - at
+  local size = left >= lengthSize and number_at(bytes, at, lengthSize) or 1
+  local start = bytes:sub(at + lengthSize + 1, at + lengthSize + #magic)
+  return size > 0 and size <= rows.largestMessage and magic:sub(1, #start) == start, size
+end
+
+-- Where the next frame begins behind `at`, or the end.
+local function next_frame(bytes, at)
+  repeat
+    at = at + 1
+  until at >= #bytes or frame_at(bytes, at)
+  return at
+end
+
+local function skip(tvb, at, size, pinfo, tree)
+  local item = tree:add(tarn, tvb(at, size), "Tarn Signalling: no message")
+  local text = counted(size, "byte") .. " that " .. (size == 1 and "is" or "are") .. " no message"
+  item:add(fields.skipped, tvb(at, size)):add_proto_expert_info(experts.skipped, text)
+  pinfo.cols.protocol = "TARN"
+  pinfo.cols.info:set("[" .. text .. "]  ")
+  pinfo.cols.info:fence()
+end
+
+-- Asks for more of the stream. Returns false if there is no more to be had.
+local function wait_for(count, at, pinfo)
+  if pinfo.can_desegment == 0 then
+    return false
+  end
+  pinfo.desegment_offset, pinfo.desegment_len = at, count
+  return true
+end
+
+-- Each of these takes what stands at a place of a stream and returns the place behind it, or nil to
+-- wait for more.
+local function dissect_frame(tvb, bytes, at, pinfo, tree)
+  local left = #bytes - at
+  local size = left >= lengthSize and select(2, frame_at(bytes, at))
+  local missing = size and lengthSize + size - left or DESEGMENT_ONE_MORE_SEGMENT
+  if missing > 0 and wait_for(missing, at, pinfo) then
+    return nil
+  elseif left <= lengthSize then
+    skip(tvb, at, left, pinfo, tree)
+    return #bytes
+  end
+  tree:add(fields.length, tvb(at, lengthSize))
+  size = math.min(size, left - lengthSize)
+  dissect_message(tvb, at + lengthSize, size, pinfo, tree)
+  return at + lengthSize + size
+end
+
+-- A sender may write length and message one after the other, so that a segment begins with the
+-- message. It ends with the segment, or where a next length follows.
+local function dissect_unframed(tvb, bytes, pinfo, tree)
+  local size = read_message(bytes).taken
+  if size == 0 or not frame_at(bytes, size) then
+    size = #bytes
+  end
+  dissect_message(tvb, 0, size, pinfo, tree)
+  return size
+end
+
+local function dissect_stream(tvb, pinfo, tree)
+  local bytes, at = tvb:raw(), 0
+  if begins_with_message(bytes, 0) then
+    at = dissect_unframed(tvb, bytes, pinfo, tree)
+  end
+  while at and at < #bytes do
+    if frame_at(bytes, at) then
+      at = dissect_frame(tvb, bytes, at, pinfo, tree)
+    else
+      local behind = next_frame(bytes, at)
+      skip(tvb, at, behind - at, pinfo, tree)
+      at = behind
+    end
+  end
+  return #bytes
+end
+
+-- ---- Where messages are found ------------------------------------------------------------------
+
+-- Only TCP offers to desegment. A frame elsewhere is read as well.
+function tarn.dissector(tvb, pinfo, tree)
+  local bytes = tvb:raw()
+  if #bytes == 0 then
+    return 0
+  elseif pinfo.can_desegment > 0 or (#bytes > lengthSize and frame_at(bytes, 0)) then
+    return dissect_stream(tvb, pinfo, tree)
+  end
+  dissect_message(tvb, 0, #bytes, pinfo, tree)
+  return #bytes
+end
+
+local function find_datagram(tvb, pinfo, tree)
+  if not begins_with_message(tvb:raw(0, math.min(tvb:len(), #magic)), 0) then
+    return false
+  end
+  dissect_message(tvb, 0, tvb:len(), pinfo, tree)
+  return true
+end
+
+-- Calls the function and not the dissector: Wireshark would let that one no longer desegment.
+local function find_stream(tvb, pinfo, tree)
+  local first = tvb:raw(0, math.min(tvb:len(), lengthSize + #magic))
+  local isFrame = #first == lengthSize + #magic and frame_at(first, 0)
+  if not isFrame and not begins_with_message(first, 0) then
+    return false
+  end
+  pinfo.conversation = tarn
+  dissect_stream(tvb, pinfo, tree)
+  return true
+end
+
+tarn:register_heuristic("udp", find_datagram)
+tarn:register_heuristic("sctp", find_datagram)
+tarn:register_heuristic("tcp", find_stream)
+
+local portTables = {}
+for _, name in ipairs({ "udp.port", "sctp.port", "tcp.port" }) do
+  portTables[name] = DissectorTable.get(name)
+  portTables[name]:add_for_decode_as(tarn)
+end
+local linkTypes = DissectorTable.get("wtap_encap")
+local firstUserLinkType = 147
+
+-- Calls the function with each range of "147,150-152".
+local function each_range(text, call)
+  for least, greatest in text:gmatch("(%d+)%-?(%d*)") do
+    call(tonumber(least), tonumber(greatest) or tonumber(least))
+  end
+end
+
+local registered = { ports = "", linkTypes = "" }
+
+local function register(ports, types, verb)
+  for _, portTable in pairs(portTables) do
+    if ports ~= "" then
+      portTable[verb](portTable, ports, tarn)
+    end
+  end
+  each_range(types, function(least, greatest)
+    for type = math.max(least, firstUserLinkType), greatest do
+      linkTypes[verb](linkTypes, wtap_encaps.USER0 + type - firstUserLinkType, tarn)
+    end
+  end)
+end
+
+local function apply_preferences()
+  register(registered.ports, registered.linkTypes, "remove")
+  registered = { ports = tarn.prefs.ports, linkTypes = tarn.prefs.link_types }
+  register(registered.ports, registered.linkTypes, "add")
+end
+
+function tarn.prefs_changed()
+  apply_preferences()
+end
+
+apply_preferences()
