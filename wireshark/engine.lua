@@ -50,39 +50,6 @@ for _, message in ipairs(rows.messages) do
   messagesById[message.id] = message
 end
 
-rows.reasons = {
-  BytesEnd = "missing: the bytes end before {ie}",
-  WrongTag = "expected {ie}, found {found}",
-  HeaderCut = "truncated header: tag and length take 6 bytes, but only {number} {number:remains}",
-  WrongWidth = "its length field says {number}, where {name} takes exactly {width}",
-  LengthBeyondBytes = "its length field says {number}, but only {other:byte} {other:remains}",
-  LengthBeyondArray = "its length field says {number}, more than the {capacity} bytes that {name} can hold",
-  MemberMissing = "missing: the length of {ie} is used up after {number:byte}",
-  TooManyItems = "one more than the {capacity} items that {name} can hold",
-  ListEnds = "its length field says {number}, but the bytes end after {other}",
-  ElementBeyondList = "passes the end of {owner}, whose length field says {number}",
-  UnknownMessageId = "no message has the id {number}",
-  NoMessage = "no message",
-  BelowLeast = "{number} is below {least}",
-  AboveGreatest = "{number} is above {greatest}",
-  CountOutOfRange = "{number:unit}, where {range} are allowed",
-  Missing = "missing: it is mandatory",
-  Needed = "missing: it is required where {condition}",
-  NeededButFound = "missing: it is required where {condition}; found {found}",
-  NotCalledFor = "not allowed here: it stands only where {condition}",
-  Foreign = "{found} does not belong here",
-  BufferTooSmall = "the message takes {number:byte}, but the buffer holds {other}",
-  LengthDiffers = "its length field says {number}, but the {parts} read take {other:byte}",
-  Ignored = "{number:byte} ignored",
-  IgnoredFrom = "{number:byte} ignored, from {found} on",
-  IgnoredForeign = "{number:byte} ignored, from {found} on, which is no IE of {message}",
-  IgnoredUnordered = "{number:byte} ignored, from {found} on, which stands twice or out of order",
-}
-
-for name, form in pairs({ IpAddress = "Dotted", Imsi = "Digits", NasUeId = "Digits",
-  PLMNId = "MccMnc", TempUeIdValue = "HexNumber", LAC = "HexNumber", CI = "HexNumber" }) do
-  typesByName[name].form = form
-end
 -- ---- Words -------------------------------------------------------------------------------------
 
 local function number_text(number)
@@ -173,8 +140,10 @@ end
 -- A node is an IE or nested TLV: its row, its name and place in its parent, the byte at which its
 -- header begins, its size, and its parts as an array. A walk is the bytes and a position in them.
 
+-- With all its members at once: a table that grows is slow.
 local function new_node(parent, type, name, index)
-  return { parent = parent, type = type, name = name, index = index }
+  return { parent = parent, type = type, name = name, index = index, at = 0, declared = 0,
+    size = 0, number = 0 }
 end
 
 -- The tag at the position, 0 if there is not enough for one.
@@ -191,21 +160,26 @@ local function number_at(bytes, at, width)
   return width == 2 and a * 256 + b or ((a * 256 + b) * 256 + c) * 256 + d
 end
 
--- Reads the header of an IE or nested TLV and moves behind it.
-local function read_header(walk, node)
-  local at, left, type = walk.at, walk.length - walk.at, node.type
-  node.at = at
+local function header_fault(walk, node)
+  local at, left, tag = walk.at, walk.length - walk.at, tag_at(walk)
   if left == 0 then
     return finding(node, at, "BytesEnd")
   end
-  local tag = tag_at(walk)
-  if left >= tagSize and tag ~= type.tag then
+  if left >= tagSize and tag ~= node.type.tag then
     return finding(node, at, "WrongTag", { found = tag })
   end
-  if left < headerSize then
-    return finding(node, at, "HeaderCut", { number = left })
+  return finding(node, at, "HeaderCut", { number = left })
+end
+
+-- Reads the header of an IE or nested TLV and moves behind it.
+local function read_header(walk, node)
+  local at = walk.at
+  local a, b, c, d, e, f = byte(walk.bytes, at + 1, at + headerSize)
+  node.at = at
+  if not f or a * 256 + b ~= node.type.tag then
+    return header_fault(walk, node)
   end
-  node.declared = number_at(walk.bytes, at + tagSize, headerSize - tagSize)
+  node.declared = ((c * 256 + d) * 256 + e) * 256 + f
   walk.at = at + headerSize
 end
 
@@ -338,9 +312,6 @@ end
 
 local function is_called_for(owner, slot)
   local condition = slot.condition
-  if not condition then
-    return true
-  end
   for _, child in ipairs(owner) do
     if child.type == condition.type then
       return (condition.values[child.number] or false) == condition.inside
@@ -351,9 +322,9 @@ end
 
 -- The first conditional slot that is not filled although it is called for. The walk fills none
 -- that is not.
-local function unmet_condition(owner, slots)
-  for _, slot in ipairs(slots) do
-    if slot.condition and not owner.filled[slot] and is_called_for(owner, slot) then
+local function unmet_condition(owner, row)
+  for _, slot in ipairs(row.rule ~= "none" and row.slots or {}) do
+    if slot.condition and not owner[slot] and is_called_for(owner, slot) then
       return slot
     end
   end
@@ -374,14 +345,13 @@ local function read_composite(walk, node)
     return "absent", fault
   end
   node.isComposite = true
-  node.filled = {}
   fault = (type.slots and read_slots or read_elements)(walk, node, type)
   node.size = walk.at - node.at
   if fault then
     return "absent", fault
   end
   note_length(walk, node)
-  local unmet = type.slots and unmet_condition(node, type.slots)
+  local unmet = type.slots and unmet_condition(node, type)
   if unmet then
     return "invalid", needed(node, unmet, walk.at)
   end
@@ -416,7 +386,7 @@ local function refusal(walk, owner, row, slot, node, outcome, fault)
   end
   if slot.condition then
     local calledFor = is_called_for(owner, slot)
-    if outcome == "absent" and calledFor and not stoodThere then
+    if outcome == "absent" and calledFor and not stoodThere and fault.reason ~= "HeaderCut" then
       local values = { condition = slot.condition, found = tag_at(walk) }
       fault = finding(node, fault.at, "NeededButFound", values)
     end
@@ -450,9 +420,11 @@ local function read_slot(walk, owner, row, slot)
   local start, noteCount = walk.at, #walk.notes
   local node = new_node(owner, slot.type, slot.name)
   local outcome, fault = read_child(walk, node)
-  if outcome == "valid" and is_called_for(owner, slot) then
+  if outcome == "valid" and (not slot.condition or is_called_for(owner, slot)) then
     owner[#owner + 1] = node
-    owner.filled[slot] = true
+    if slot.condition then
+      owner[slot] = true
+    end
     return nil
   end
   go_back(walk, start, noteCount)
@@ -577,7 +549,7 @@ end
 -- rests on, notes on what was let pass, and how many bytes were taken.
 local function read_message(bytes)
   local walk = { bytes = bytes, length = #bytes, at = 0, notes = {}, leftOut = {} }
-  local root = { filled = {} }
+  local root = {}
   local result = { root = root, faults = {}, notes = walk.notes, taken = 0, verdict = "refused" }
   local message, fault = read_message_id(walk, root)
   result.message = message
@@ -587,7 +559,7 @@ local function read_message(bytes)
     add_left_out(walk, fault.at, result.faults)
     return result
   end
-  local unmet = unmet_condition(root, message.slots)
+  local unmet = unmet_condition(root, message)
   result.faults[1] = unmet and needed(root, unmet, walk.at)
   result.verdict = unmet and "invalid" or "valid"
   explain_rest(walk, root, message)

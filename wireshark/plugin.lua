@@ -2,12 +2,13 @@
 
 local tarn = Proto("tarn", "Tarn Signalling")
 
-tarn.prefs.ports = Pref.range("Ports", "", "Ports of UDP, SCTP and TCP that carry messages. " ..
-  "Elsewhere messages are found by their first bytes.", 65535)
-tarn.prefs.link_types = Pref.range("User link types", "147", "Link types, 147 to 162, of captures " ..
-  "that hold one message in each packet and nothing around it.", 162)
-tarn.prefs.nas = Pref.bool("Dissect NAS messages", true, "Hand the content of NasMsg to the " ..
-  "dissector of GSM and UMTS NAS.")
+tarn.prefs.ports = Pref.range("Ports", "",
+  "Ports of UDP, SCTP and TCP that carry messages. Elsewhere they are found by their first bytes.",
+  65535)
+tarn.prefs.link_types = Pref.range("User link types", "147",
+  "Link types, 147 to 162, of captures that hold one message a packet and nothing around it.", 162)
+tarn.prefs.nas = Pref.bool("Dissect NAS messages", true,
+  "Hand the content of NasMsg to the dissector of GSM and UMTS NAS.")
 
 -- ---- Fields ------------------------------------------------------------------------------------
 
@@ -36,8 +37,6 @@ local experts = {
     expert.severity.NOTE),
   skipped = ProtoExpert.new("tarn.no_message", "Bytes that are no message",
     expert.group.UNDECODED, expert.severity.WARN),
-  nas = ProtoExpert.new("tarn.nas", "The NAS message does not decode", expert.group.UNDECODED,
-    expert.severity.NOTE),
 }
 
 local uintFields = { ProtoField.uint8, ProtoField.uint16, [4] = ProtoField.uint32 }
@@ -83,20 +82,20 @@ tarn.experts = allExperts
 
 -- ---- Trees -------------------------------------------------------------------------------------
 --
--- A view is one message in a packet: the packet's buffer, the message's first byte and its size
--- there, and its bytes as a string.
+-- A view is one message in a packet: the packet's buffer, the message's first byte there, and its
+-- bytes as a string.
 
+local lengthSize = 4 -- of what stands in front of a message in a stream
+
+local nasType = typesByName.NasMsg
 local nasDissector = Dissector.get("gsm_a_dtap")
 
 -- A NAS message that is malformed throws through the call, and leaves behind that nothing more may
 -- be desegmented: the rest of a TCP stream would be lost.
 local function dissect_nas(range, pinfo, item)
   local canDesegment = pinfo.can_desegment
-  local isDissected = pcall(nasDissector.call, nasDissector, range:tvb(), pinfo, item)
+  pcall(nasDissector.call, nasDissector, range:tvb(), pinfo, item) -- it has told what is wrong
   pinfo.can_desegment = canDesegment
-  if not isDissected then
-    item:add_proto_expert_info(experts.nas)
-  end
 end
 
 local function range_of(view, at, size)
@@ -121,7 +120,7 @@ local function add_bytes(tree, node, view, pinfo)
   end
   local value = range_of(view, at, node.count)
   local item = tree:add(fieldOf[type], value)
-  if type.name == "NasMsg" and tarn.prefs.nas then
+  if type == nasType and tarn.prefs.nas then
     dissect_nas(value, pinfo, item)
   end
 end
@@ -204,12 +203,15 @@ local function make_pair(request, response)
   return pair
 end
 
--- By the message's row: the pairs in which it is the request, and those in which it is the response.
+-- By the message's row: the pairs in which it is the request, and in which it is the response.
 local asRequest, asResponse = {}, {}
+
+local isPaired = {}
 
 local function add_to(lists, row, pair)
   lists[row] = lists[row] or {}
   table.insert(lists[row], pair)
+  isPaired[row] = true
 end
 
 local messagesByName = {}
@@ -232,11 +234,16 @@ local function place_of(view, pinfo)
   return pinfo.number .. ":" .. view.tvb:offset() + view.start
 end
 
--- Both ends in an order of their own, and the numbers that the pair goes by.
-local function pair_key(pair, root, pinfo)
+-- Both ends, in the same order whichever of them sends.
+local function ends_of(pinfo)
   local from = tostring(pinfo.src) .. ":" .. pinfo.src_port
   local to = tostring(pinfo.dst) .. ":" .. pinfo.dst_port
-  local key = from < to and from .. " " .. to or to .. " " .. from
+  return from < to and from .. " " .. to or to .. " " .. from
+end
+
+-- The ends, and the numbers that the pair goes by.
+local function pair_key(pair, root, ends)
+  local key = ends
   for _, type in ipairs(pair.types) do
     for _, child in ipairs(root) do
       key = child.type == type and key .. " " .. child.number or key
@@ -257,9 +264,9 @@ local function take_request(pair, key)
 end
 
 local function link_message(result, view, pinfo)
-  local place = place_of(view, pinfo)
+  local place, ends = place_of(view, pinfo), ends_of(pinfo)
   for _, pair in ipairs(asResponse[result.message] or {}) do
-    local link = take_request(pair, pair_key(pair, result.root, pinfo))
+    local link = take_request(pair, pair_key(pair, result.root, ends))
     if link then
       link.response, link.seconds = pinfo.number, pinfo.rel_ts - link.seconds
       links[place] = { asResponse = link }
@@ -270,7 +277,7 @@ local function link_message(result, view, pinfo)
     links[place] = links[place] or {}
     local link = links[place].asRequest or { request = pinfo.number, seconds = pinfo.rel_ts }
     links[place].asRequest = link
-    local key = pair_key(pair, result.root, pinfo)
+    local key = pair_key(pair, result.root, ends)
     pair.waiting[key] = pair.waiting[key] or {}
     table.insert(pair.waiting[key], link)
   end
@@ -284,16 +291,16 @@ local function add_links(tree, place)
   if link.asResponse then
     local seconds = link.asResponse.seconds
     local whole = math.floor(seconds)
+    local nanoseconds = math.floor((seconds - whole) * 1e9 + 0.5)
     tree:add(fields.requestIn, link.asResponse.request):set_generated()
-    local time = NSTime.new(whole, math.floor((seconds - whole) * 1e9 + 0.5))
-    tree:add(fields.responseTime, time):set_generated()
+    tree:add(fields.responseTime, NSTime.new(whole, nanoseconds)):set_generated()
   end
 end
 
 function tarn.init()
   links = {}
-  for _, pairs_ in pairs(asRequest) do
-    for _, pair in ipairs(pairs_) do
+  for _, list in pairs(asRequest) do
+    for _, pair in ipairs(list) do
       pair.waiting = {}
     end
   end
@@ -301,7 +308,7 @@ end
 
 -- ---- A message ---------------------------------------------------------------------------------
 
-local ueTypes = { Srnti = "S-RNTI", AcUeId = "UE" }
+local ownDissector -- once it is registered
 
 -- "UeContextAccept, S-RNTI 0x12001, UE 7001, valid"
 local function summary(result)
@@ -316,15 +323,22 @@ local function summary(result)
   return text .. ", " .. result.verdict
 end
 
-local function add_message(tree, result, view, pinfo)
+local function add_contents(item, result, view, pinfo)
   local whole = range_of(view, 0, #view.bytes)
-  local item = tree:add(tarn, whole, "Tarn Signalling: " .. summary(result))
+  if view.isFramed then
+    item:add(fields.length, range_of(view, -lengthSize, lengthSize))
+  end
   item:add(fields.message, whole, result.message and result.message.name or ""):set_generated()
   item:add(fields.verdict, whole, result.verdict):set_generated()
-  add_links(item, place_of(view, pinfo))
+  if isPaired[result.message] then
+    add_links(item, place_of(view, pinfo))
+  end
   for _, child in ipairs(result.root) do
     add_node(item, child, view, pinfo)
   end
+end
+
+local function add_findings(item, result, view)
   local kind = result.verdict == "invalid" and experts.invalid or experts.refused
   for _, fault in ipairs(result.faults) do
     add_finding(item, fault, kind, view)
@@ -334,30 +348,58 @@ local function add_message(tree, result, view, pinfo)
   end
 end
 
--- A fence keeps what was written for earlier messages of the packet.
-local function show_in_columns(result, pinfo)
-  local info = pinfo.cols.info
-  pinfo.cols.protocol = "TARN"
-  info:set(summary(result) .. "  ")
-  info:fence()
+local function holds_nas(result)
+  for _, child in ipairs(tarn.prefs.nas and result.root or {}) do
+    if child.type == nasType then
+      return true
+    end
+  end
+  return false
 end
 
-local function dissect_message(tvb, start, size, pinfo, tree)
-  local view = { tvb = tvb, start = start, bytes = tvb:raw(start, size) }
+-- Most packets of a long capture are neither shown nor filtered by an IE, and making their trees
+-- would take most of the time. Findings are always wanted, by the list of expert information; and
+-- so are NAS messages, whose dissector has fields and findings of its own.
+local function add_message(tree, result, view, pinfo, text)
+  local isWanted = tree.visible or tree:referenced(ownDissector) or holds_nas(result)
+  if not isWanted and #result.faults == 0 and #result.notes == 0 then
+    return
+  end
+  local item = tree:add(tarn, range_of(view, 0, #view.bytes), "Tarn Signalling: " .. text)
+  if isWanted then
+    add_contents(item, result, view, pinfo)
+  end
+  add_findings(item, result, view)
+end
+
+local function show_in_columns(text, pinfo)
+  pinfo.cols.protocol = "TARN"
+  pinfo.cols.info:set(text .. "  ")
+end
+
+-- Keeps what stands in the info column where the packet holds another message.
+local function keep_columns(pinfo)
+  pinfo.cols.info:fence()
+end
+
+-- `isFramed` tells that the message's length stands in front of it.
+local function dissect_message(tvb, start, size, pinfo, tree, isFramed)
+  local view = { tvb = tvb, start = start, bytes = tvb:raw(start, size), isFramed = isFramed }
   local result = read_message(view.bytes)
-  show_in_columns(result, pinfo)
-  if not pinfo.visited and result.verdict ~= "refused" then
+  local text = summary(result)
+  show_in_columns(text, pinfo)
+  if isPaired[result.message] and not pinfo.visited and result.verdict ~= "refused" then
     link_message(result, view, pinfo)
   end
-  add_message(tree, result, view, pinfo)
+  add_message(tree, result, view, pinfo, text)
+  keep_columns(pinfo)
   return result
 end
 
 -- ---- Streams -----------------------------------------------------------------------------------
 --
--- A message in a stream has its length in front, 4 bytes, most significant first.
+-- A message in a stream has its length in front, most significant byte first.
 
-local lengthSize = 4
 local magic = "\0\72\0\0\0\1" -- what every message begins with: tag and length of its MessageId
 
 local function begins_with_message(bytes, at)
@@ -384,9 +426,8 @@ local function skip(tvb, at, size, pinfo, tree)
   local item = tree:add(tarn, tvb(at, size), "Tarn Signalling: no message")
   local text = counted(size, "byte") .. " that " .. (size == 1 and "is" or "are") .. " no message"
   item:add(fields.skipped, tvb(at, size)):add_proto_expert_info(experts.skipped, text)
-  pinfo.cols.protocol = "TARN"
-  pinfo.cols.info:set("[" .. text .. "]  ")
-  pinfo.cols.info:fence()
+  show_in_columns("[" .. text .. "]", pinfo)
+  keep_columns(pinfo)
 end
 
 -- Asks for more of the stream. Returns false if there is no more to be had.
@@ -410,9 +451,8 @@ local function dissect_frame(tvb, bytes, at, pinfo, tree)
     skip(tvb, at, left, pinfo, tree)
     return #bytes
   end
-  tree:add(fields.length, tvb(at, lengthSize))
   size = math.min(size, left - lengthSize)
-  dissect_message(tvb, at + lengthSize, size, pinfo, tree)
+  dissect_message(tvb, at + lengthSize, size, pinfo, tree, true)
   return at + lengthSize + size
 end
 
@@ -457,6 +497,8 @@ function tarn.dissector(tvb, pinfo, tree)
   dissect_message(tvb, 0, #bytes, pinfo, tree)
   return #bytes
 end
+
+ownDissector = Dissector.get("tarn")
 
 local function find_datagram(tvb, pinfo, tree)
   if not begins_with_message(tvb:raw(0, math.min(tvb:len(), #magic)), 0) then

@@ -93,19 +93,19 @@ local rows = {
     { name = "NasMsg", tag = 7, shape = "bytes", capacity = 4096, least = 1, greatest = 4095, term = "NAS message, passed through (NAS-PDU)" },
     { name = "IntProtKey", tag = 13, shape = "bytes", capacity = 16, least = 16, greatest = 16, term = "Integrity protection key (IK)" },
     { name = "EncryptKey", tag = 16, shape = "bytes", capacity = 16, least = 16, greatest = 16, term = "Encryption key (CK)" },
-    { name = "TempUeIdValue", tag = 79, shape = "bytes", capacity = 4, least = 4, greatest = 4, term = "Temporary UE identity (TMSI or P-TMSI)" },
+    { name = "TempUeIdValue", tag = 79, shape = "bytes", capacity = 4, least = 4, greatest = 4, form = "HexNumber", term = "Temporary UE identity (TMSI or P-TMSI)" },
     { name = "MasterKey", tag = 85, shape = "bytes", capacity = 16, least = 0, greatest = 16, term = "SRTP master key" },
     { name = "MasterSalt", tag = 86, shape = "bytes", capacity = 14, least = 0, greatest = 14, term = "SRTP master salt" },
-    { name = "NasUeId", tag = 92, shape = "bytes", capacity = 8, least = 3, greatest = 8, term = "Permanent NAS UE identity" },
-    { name = "PLMNId", tag = 108, shape = "bytes", capacity = 3, least = 3, greatest = 3, term = "PLMN identity" },
-    { name = "LAC", tag = 109, shape = "bytes", capacity = 2, least = 2, greatest = 2, term = "Location area code (LAC), a 2-byte string and not a number" },
-    { name = "CI", tag = 113, shape = "bytes", capacity = 2, least = 2, greatest = 2, term = "Cell identity (CI), a 2-byte string and not a number" },
+    { name = "NasUeId", tag = 92, shape = "bytes", capacity = 8, least = 3, greatest = 8, form = "Digits", term = "Permanent NAS UE identity" },
+    { name = "PLMNId", tag = 108, shape = "bytes", capacity = 3, least = 3, greatest = 3, form = "MccMnc", term = "PLMN identity" },
+    { name = "LAC", tag = 109, shape = "bytes", capacity = 2, least = 2, greatest = 2, form = "HexNumber", term = "Location area code (LAC), a 2-byte string and not a number" },
+    { name = "CI", tag = 113, shape = "bytes", capacity = 2, least = 2, greatest = 2, form = "HexNumber", term = "Cell identity (CI), a 2-byte string and not a number" },
     { name = "GsmClassmark2", tag = 114, shape = "bytes", capacity = 5, least = 0, greatest = 5, term = "GSM mobile station classmark 2" },
     { name = "GsmClassmark3", tag = 115, shape = "bytes", capacity = 32, least = 1, greatest = 32, term = "GSM mobile station classmark 3" },
     { name = "RrcContainer", tag = 117, shape = "bytes", capacity = 2000, least = 0, greatest = 2000, term = "RRC container, passed through" },
     { name = "L3Information", tag = 120, shape = "bytes", capacity = 255, least = 0, greatest = 255, term = "Layer 3 information, passed through" },
     { name = "OldBssToNewBssInfo", tag = 159, shape = "bytes", capacity = 255, least = 0, greatest = 255, term = "Old BSS to new BSS information, passed through" },
-    { name = "Imsi", tag = 169, shape = "bytes", capacity = 16, least = 16, greatest = 16, term = "Subscriber identity (IMSI), 16 opaque bytes" },
+    { name = "Imsi", tag = 169, shape = "bytes", capacity = 16, least = 16, greatest = 16, form = "Digits", term = "Subscriber identity (IMSI), 16 opaque bytes" },
     { name = "IntProtInfo", tag = 11, shape = "record", members = { "IntProtAlgo", "IntProtKey" }, term = "Integrity protection information: algorithm and key" },
     { name = "EncryptAlgos", tag = 15, shape = "list", capacity = 2, least = 1, greatest = 2, item = "EncryptAlgo", term = "Permitted encryption algorithms" },
     { name = "EncryptInfo", tag = 14, shape = "record", members = { "EncryptAlgos", "EncryptKey" }, term = "Encryption information: permitted algorithms and key" },
@@ -122,7 +122,7 @@ local rows = {
     { name = "RabReleaseInfo", tag = 67, shape = "record", members = { "RabId", "RabReleaseCause" }, term = "One RAB to release, and why" },
     { name = "RabIdList", tag = 167, shape = "list", capacity = 3, least = 1, greatest = 3, item = "RabId", term = "RAB identifiers; the items carry the tag of the RabId IE itself" },
     { name = "HandoutRabReleaseInfo", tag = 122, shape = "record", members = { "CnDomainId", "RabIdList" }, term = "The RABs of one core network domain to release at a handout" },
-    { name = "IpAddress", tag = 60, shape = "list", capacity = 4, least = 4, greatest = 4, item = "IpAddressByte", term = "IPv4 address, four one-byte items, most significant first" },
+    { name = "IpAddress", tag = 60, shape = "list", capacity = 4, least = 4, greatest = 4, item = "IpAddressByte", form = "Dotted", term = "IPv4 address, four one-byte items, most significant first" },
     { name = "BitRates", tag = 30, shape = "list", capacity = 2, least = 0, greatest = 2, item = "BitRate", term = "Bit rates, bit/s, one for each direction" },
     { name = "PdpTypeInfoList", tag = 45, shape = "list", capacity = 2, least = 0, greatest = 2, item = "PdpTypeInfo", term = "PDP type information" },
     { name = "RabSetupFailedList", tag = 63, shape = "list", capacity = 3, least = 0, greatest = 3, item = "RabSetupFailedInfo", term = "RABs that could not be set up" },
@@ -475,6 +475,34 @@ local rows = {
     interactive = { type = "TrafficClass", values = { [3] = true }, inside = true, meaning = "TrafficClass is 3 (interactive)" },
     realTime = { type = "TrafficClass", values = { [0] = true, [2] = true }, inside = true, meaning = "TrafficClass is 0 or 2 (real-time)" },
   },
+  reasons = {
+    BytesEnd = "missing: the bytes end before {ie}",
+    WrongTag = "expected {ie}, found {found}",
+    HeaderCut = "truncated header: tag and length take 6 bytes, but only {number} {number:remains}",
+    WrongWidth = "its length field says {number}, where {name} takes exactly {width}",
+    LengthBeyondBytes = "its length field says {number}, but only {other:byte} {other:remains}",
+    LengthBeyondArray = "its length field says {number}, more than the {capacity} bytes that {name} can hold",
+    MemberMissing = "missing: the length of {ie} is used up after {number:byte}",
+    TooManyItems = "one more than the {capacity} items that {name} can hold",
+    ListEnds = "its length field says {number}, but the bytes end after {other}",
+    ElementBeyondList = "passes the end of {owner}, whose length field says {number}",
+    UnknownMessageId = "no message has the id {number}",
+    NoMessage = "no message",
+    BelowLeast = "{number} is below {least}",
+    AboveGreatest = "{number} is above {greatest}",
+    CountOutOfRange = "{number:unit}, where {range} are allowed",
+    Missing = "missing: it is mandatory",
+    Needed = "missing: it is required where {condition}",
+    NeededButFound = "missing: it is required where {condition}; found {found}",
+    NotCalledFor = "not allowed here: it stands only where {condition}",
+    Foreign = "{found} does not belong here",
+    BufferTooSmall = "the message takes {number:byte}, but the buffer holds {other}",
+    LengthDiffers = "its length field says {number}, but the {parts} read take {other:byte}",
+    Ignored = "{number:byte} ignored",
+    IgnoredFrom = "{number:byte} ignored, from {found} on",
+    IgnoredForeign = "{number:byte} ignored, from {found} on, which is no IE of {message}",
+    IgnoredUnordered = "{number:byte} ignored, from {found} on, which stands twice or out of order",
+  },
 }
 
 -- ---- The reading part --------------------------------------------------------------------------
@@ -529,39 +557,6 @@ for _, message in ipairs(rows.messages) do
   messagesById[message.id] = message
 end
 
-rows.reasons = {
-  BytesEnd = "missing: the bytes end before {ie}",
-  WrongTag = "expected {ie}, found {found}",
-  HeaderCut = "truncated header: tag and length take 6 bytes, but only {number} {number:remains}",
-  WrongWidth = "its length field says {number}, where {name} takes exactly {width}",
-  LengthBeyondBytes = "its length field says {number}, but only {other:byte} {other:remains}",
-  LengthBeyondArray = "its length field says {number}, more than the {capacity} bytes that {name} can hold",
-  MemberMissing = "missing: the length of {ie} is used up after {number:byte}",
-  TooManyItems = "one more than the {capacity} items that {name} can hold",
-  ListEnds = "its length field says {number}, but the bytes end after {other}",
-  ElementBeyondList = "passes the end of {owner}, whose length field says {number}",
-  UnknownMessageId = "no message has the id {number}",
-  NoMessage = "no message",
-  BelowLeast = "{number} is below {least}",
-  AboveGreatest = "{number} is above {greatest}",
-  CountOutOfRange = "{number:unit}, where {range} are allowed",
-  Missing = "missing: it is mandatory",
-  Needed = "missing: it is required where {condition}",
-  NeededButFound = "missing: it is required where {condition}; found {found}",
-  NotCalledFor = "not allowed here: it stands only where {condition}",
-  Foreign = "{found} does not belong here",
-  BufferTooSmall = "the message takes {number:byte}, but the buffer holds {other}",
-  LengthDiffers = "its length field says {number}, but the {parts} read take {other:byte}",
-  Ignored = "{number:byte} ignored",
-  IgnoredFrom = "{number:byte} ignored, from {found} on",
-  IgnoredForeign = "{number:byte} ignored, from {found} on, which is no IE of {message}",
-  IgnoredUnordered = "{number:byte} ignored, from {found} on, which stands twice or out of order",
-}
-
-for name, form in pairs({ IpAddress = "Dotted", Imsi = "Digits", NasUeId = "Digits",
-  PLMNId = "MccMnc", TempUeIdValue = "HexNumber", LAC = "HexNumber", CI = "HexNumber" }) do
-  typesByName[name].form = form
-end
 -- ---- Words -------------------------------------------------------------------------------------
 
 local function number_text(number)
@@ -652,8 +647,10 @@ end
 -- A node is an IE or nested TLV: its row, its name and place in its parent, the byte at which its
 -- header begins, its size, and its parts as an array. A walk is the bytes and a position in them.
 
+-- With all its members at once: a table that grows is slow.
 local function new_node(parent, type, name, index)
-  return { parent = parent, type = type, name = name, index = index }
+  return { parent = parent, type = type, name = name, index = index, at = 0, declared = 0,
+    size = 0, number = 0 }
 end
 
 -- The tag at the position, 0 if there is not enough for one.
@@ -670,21 +667,26 @@ local function number_at(bytes, at, width)
   return width == 2 and a * 256 + b or ((a * 256 + b) * 256 + c) * 256 + d
 end
 
--- Reads the header of an IE or nested TLV and moves behind it.
-local function read_header(walk, node)
-  local at, left, type = walk.at, walk.length - walk.at, node.type
-  node.at = at
+local function header_fault(walk, node)
+  local at, left, tag = walk.at, walk.length - walk.at, tag_at(walk)
   if left == 0 then
     return finding(node, at, "BytesEnd")
   end
-  local tag = tag_at(walk)
-  if left >= tagSize and tag ~= type.tag then
+  if left >= tagSize and tag ~= node.type.tag then
     return finding(node, at, "WrongTag", { found = tag })
   end
-  if left < headerSize then
-    return finding(node, at, "HeaderCut", { number = left })
+  return finding(node, at, "HeaderCut", { number = left })
+end
+
+-- Reads the header of an IE or nested TLV and moves behind it.
+local function read_header(walk, node)
+  local at = walk.at
+  local a, b, c, d, e, f = byte(walk.bytes, at + 1, at + headerSize)
+  node.at = at
+  if not f or a * 256 + b ~= node.type.tag then
+    return header_fault(walk, node)
   end
-  node.declared = number_at(walk.bytes, at + tagSize, headerSize - tagSize)
+  node.declared = ((c * 256 + d) * 256 + e) * 256 + f
   walk.at = at + headerSize
 end
 
@@ -817,9 +819,6 @@ end
 
 local function is_called_for(owner, slot)
   local condition = slot.condition
-  if not condition then
-    return true
-  end
   for _, child in ipairs(owner) do
     if child.type == condition.type then
       return (condition.values[child.number] or false) == condition.inside
@@ -830,9 +829,9 @@ end
 
 -- The first conditional slot that is not filled although it is called for. The walk fills none
 -- that is not.
-local function unmet_condition(owner, slots)
-  for _, slot in ipairs(slots) do
-    if slot.condition and not owner.filled[slot] and is_called_for(owner, slot) then
+local function unmet_condition(owner, row)
+  for _, slot in ipairs(row.rule ~= "none" and row.slots or {}) do
+    if slot.condition and not owner[slot] and is_called_for(owner, slot) then
       return slot
     end
   end
@@ -853,14 +852,13 @@ local function read_composite(walk, node)
     return "absent", fault
   end
   node.isComposite = true
-  node.filled = {}
   fault = (type.slots and read_slots or read_elements)(walk, node, type)
   node.size = walk.at - node.at
   if fault then
     return "absent", fault
   end
   note_length(walk, node)
-  local unmet = type.slots and unmet_condition(node, type.slots)
+  local unmet = type.slots and unmet_condition(node, type)
   if unmet then
     return "invalid", needed(node, unmet, walk.at)
   end
@@ -895,7 +893,7 @@ local function refusal(walk, owner, row, slot, node, outcome, fault)
   end
   if slot.condition then
     local calledFor = is_called_for(owner, slot)
-    if outcome == "absent" and calledFor and not stoodThere then
+    if outcome == "absent" and calledFor and not stoodThere and fault.reason ~= "HeaderCut" then
       local values = { condition = slot.condition, found = tag_at(walk) }
       fault = finding(node, fault.at, "NeededButFound", values)
     end
@@ -929,9 +927,11 @@ local function read_slot(walk, owner, row, slot)
   local start, noteCount = walk.at, #walk.notes
   local node = new_node(owner, slot.type, slot.name)
   local outcome, fault = read_child(walk, node)
-  if outcome == "valid" and is_called_for(owner, slot) then
+  if outcome == "valid" and (not slot.condition or is_called_for(owner, slot)) then
     owner[#owner + 1] = node
-    owner.filled[slot] = true
+    if slot.condition then
+      owner[slot] = true
+    end
     return nil
   end
   go_back(walk, start, noteCount)
@@ -1056,7 +1056,7 @@ end
 -- rests on, notes on what was let pass, and how many bytes were taken.
 local function read_message(bytes)
   local walk = { bytes = bytes, length = #bytes, at = 0, notes = {}, leftOut = {} }
-  local root = { filled = {} }
+  local root = {}
   local result = { root = root, faults = {}, notes = walk.notes, taken = 0, verdict = "refused" }
   local message, fault = read_message_id(walk, root)
   result.message = message
@@ -1066,7 +1066,7 @@ local function read_message(bytes)
     add_left_out(walk, fault.at, result.faults)
     return result
   end
-  local unmet = unmet_condition(root, message.slots)
+  local unmet = unmet_condition(root, message)
   result.faults[1] = unmet and needed(root, unmet, walk.at)
   result.verdict = unmet and "invalid" or "valid"
   explain_rest(walk, root, message)
@@ -1126,12 +1126,13 @@ end
 
 local tarn = Proto("tarn", "Tarn Signalling")
 
-tarn.prefs.ports = Pref.range("Ports", "", "Ports of UDP, SCTP and TCP that carry messages. " ..
-  "Elsewhere messages are found by their first bytes.", 65535)
-tarn.prefs.link_types = Pref.range("User link types", "147", "Link types, 147 to 162, of captures " ..
-  "that hold one message in each packet and nothing around it.", 162)
-tarn.prefs.nas = Pref.bool("Dissect NAS messages", true, "Hand the content of NasMsg to the " ..
-  "dissector of GSM and UMTS NAS.")
+tarn.prefs.ports = Pref.range("Ports", "",
+  "Ports of UDP, SCTP and TCP that carry messages. Elsewhere they are found by their first bytes.",
+  65535)
+tarn.prefs.link_types = Pref.range("User link types", "147",
+  "Link types, 147 to 162, of captures that hold one message a packet and nothing around it.", 162)
+tarn.prefs.nas = Pref.bool("Dissect NAS messages", true,
+  "Hand the content of NasMsg to the dissector of GSM and UMTS NAS.")
 
 -- ---- Fields ------------------------------------------------------------------------------------
 
@@ -1160,8 +1161,6 @@ local experts = {
     expert.severity.NOTE),
   skipped = ProtoExpert.new("tarn.no_message", "Bytes that are no message",
     expert.group.UNDECODED, expert.severity.WARN),
-  nas = ProtoExpert.new("tarn.nas", "The NAS message does not decode", expert.group.UNDECODED,
-    expert.severity.NOTE),
 }
 
 local uintFields = { ProtoField.uint8, ProtoField.uint16, [4] = ProtoField.uint32 }
@@ -1207,20 +1206,20 @@ tarn.experts = allExperts
 
 -- ---- Trees -------------------------------------------------------------------------------------
 --
--- A view is one message in a packet: the packet's buffer, the message's first byte and its size
--- there, and its bytes as a string.
+-- A view is one message in a packet: the packet's buffer, the message's first byte there, and its
+-- bytes as a string.
 
+local lengthSize = 4 -- of what stands in front of a message in a stream
+
+local nasType = typesByName.NasMsg
 local nasDissector = Dissector.get("gsm_a_dtap")
 
 -- A NAS message that is malformed throws through the call, and leaves behind that nothing more may
 -- be desegmented: the rest of a TCP stream would be lost.
 local function dissect_nas(range, pinfo, item)
   local canDesegment = pinfo.can_desegment
-  local isDissected = pcall(nasDissector.call, nasDissector, range:tvb(), pinfo, item)
+  pcall(nasDissector.call, nasDissector, range:tvb(), pinfo, item) -- it has told what is wrong
   pinfo.can_desegment = canDesegment
-  if not isDissected then
-    item:add_proto_expert_info(experts.nas)
-  end
 end
 
 local function range_of(view, at, size)
@@ -1245,7 +1244,7 @@ local function add_bytes(tree, node, view, pinfo)
   end
   local value = range_of(view, at, node.count)
   local item = tree:add(fieldOf[type], value)
-  if type.name == "NasMsg" and tarn.prefs.nas then
+  if type == nasType and tarn.prefs.nas then
     dissect_nas(value, pinfo, item)
   end
 end
@@ -1328,12 +1327,15 @@ local function make_pair(request, response)
   return pair
 end
 
--- By the message's row: the pairs in which it is the request, and those in which it is the response.
+-- By the message's row: the pairs in which it is the request, and in which it is the response.
 local asRequest, asResponse = {}, {}
+
+local isPaired = {}
 
 local function add_to(lists, row, pair)
   lists[row] = lists[row] or {}
   table.insert(lists[row], pair)
+  isPaired[row] = true
 end
 
 local messagesByName = {}
@@ -1356,11 +1358,16 @@ local function place_of(view, pinfo)
   return pinfo.number .. ":" .. view.tvb:offset() + view.start
 end
 
--- Both ends in an order of their own, and the numbers that the pair goes by.
-local function pair_key(pair, root, pinfo)
+-- Both ends, in the same order whichever of them sends.
+local function ends_of(pinfo)
   local from = tostring(pinfo.src) .. ":" .. pinfo.src_port
   local to = tostring(pinfo.dst) .. ":" .. pinfo.dst_port
-  local key = from < to and from .. " " .. to or to .. " " .. from
+  return from < to and from .. " " .. to or to .. " " .. from
+end
+
+-- The ends, and the numbers that the pair goes by.
+local function pair_key(pair, root, ends)
+  local key = ends
   for _, type in ipairs(pair.types) do
     for _, child in ipairs(root) do
       key = child.type == type and key .. " " .. child.number or key
@@ -1381,9 +1388,9 @@ local function take_request(pair, key)
 end
 
 local function link_message(result, view, pinfo)
-  local place = place_of(view, pinfo)
+  local place, ends = place_of(view, pinfo), ends_of(pinfo)
   for _, pair in ipairs(asResponse[result.message] or {}) do
-    local link = take_request(pair, pair_key(pair, result.root, pinfo))
+    local link = take_request(pair, pair_key(pair, result.root, ends))
     if link then
       link.response, link.seconds = pinfo.number, pinfo.rel_ts - link.seconds
       links[place] = { asResponse = link }
@@ -1394,7 +1401,7 @@ local function link_message(result, view, pinfo)
     links[place] = links[place] or {}
     local link = links[place].asRequest or { request = pinfo.number, seconds = pinfo.rel_ts }
     links[place].asRequest = link
-    local key = pair_key(pair, result.root, pinfo)
+    local key = pair_key(pair, result.root, ends)
     pair.waiting[key] = pair.waiting[key] or {}
     table.insert(pair.waiting[key], link)
   end
@@ -1408,16 +1415,16 @@ local function add_links(tree, place)
   if link.asResponse then
     local seconds = link.asResponse.seconds
     local whole = math.floor(seconds)
+    local nanoseconds = math.floor((seconds - whole) * 1e9 + 0.5)
     tree:add(fields.requestIn, link.asResponse.request):set_generated()
-    local time = NSTime.new(whole, math.floor((seconds - whole) * 1e9 + 0.5))
-    tree:add(fields.responseTime, time):set_generated()
+    tree:add(fields.responseTime, NSTime.new(whole, nanoseconds)):set_generated()
   end
 end
 
 function tarn.init()
   links = {}
-  for _, pairs_ in pairs(asRequest) do
-    for _, pair in ipairs(pairs_) do
+  for _, list in pairs(asRequest) do
+    for _, pair in ipairs(list) do
       pair.waiting = {}
     end
   end
@@ -1425,7 +1432,7 @@ end
 
 -- ---- A message ---------------------------------------------------------------------------------
 
-local ueTypes = { Srnti = "S-RNTI", AcUeId = "UE" }
+local ownDissector -- once it is registered
 
 -- "UeContextAccept, S-RNTI 0x12001, UE 7001, valid"
 local function summary(result)
@@ -1440,15 +1447,22 @@ local function summary(result)
   return text .. ", " .. result.verdict
 end
 
-local function add_message(tree, result, view, pinfo)
+local function add_contents(item, result, view, pinfo)
   local whole = range_of(view, 0, #view.bytes)
-  local item = tree:add(tarn, whole, "Tarn Signalling: " .. summary(result))
+  if view.isFramed then
+    item:add(fields.length, range_of(view, -lengthSize, lengthSize))
+  end
   item:add(fields.message, whole, result.message and result.message.name or ""):set_generated()
   item:add(fields.verdict, whole, result.verdict):set_generated()
-  add_links(item, place_of(view, pinfo))
+  if isPaired[result.message] then
+    add_links(item, place_of(view, pinfo))
+  end
   for _, child in ipairs(result.root) do
     add_node(item, child, view, pinfo)
   end
+end
+
+local function add_findings(item, result, view)
   local kind = result.verdict == "invalid" and experts.invalid or experts.refused
   for _, fault in ipairs(result.faults) do
     add_finding(item, fault, kind, view)
@@ -1458,30 +1472,58 @@ local function add_message(tree, result, view, pinfo)
   end
 end
 
--- A fence keeps what was written for earlier messages of the packet.
-local function show_in_columns(result, pinfo)
-  local info = pinfo.cols.info
-  pinfo.cols.protocol = "TARN"
-  info:set(summary(result) .. "  ")
-  info:fence()
+local function holds_nas(result)
+  for _, child in ipairs(tarn.prefs.nas and result.root or {}) do
+    if child.type == nasType then
+      return true
+    end
+  end
+  return false
 end
 
-local function dissect_message(tvb, start, size, pinfo, tree)
-  local view = { tvb = tvb, start = start, bytes = tvb:raw(start, size) }
+-- Most packets of a long capture are neither shown nor filtered by an IE, and making their trees
+-- would take most of the time. Findings are always wanted, by the list of expert information; and
+-- so are NAS messages, whose dissector has fields and findings of its own.
+local function add_message(tree, result, view, pinfo, text)
+  local isWanted = tree.visible or tree:referenced(ownDissector) or holds_nas(result)
+  if not isWanted and #result.faults == 0 and #result.notes == 0 then
+    return
+  end
+  local item = tree:add(tarn, range_of(view, 0, #view.bytes), "Tarn Signalling: " .. text)
+  if isWanted then
+    add_contents(item, result, view, pinfo)
+  end
+  add_findings(item, result, view)
+end
+
+local function show_in_columns(text, pinfo)
+  pinfo.cols.protocol = "TARN"
+  pinfo.cols.info:set(text .. "  ")
+end
+
+-- Keeps what stands in the info column where the packet holds another message.
+local function keep_columns(pinfo)
+  pinfo.cols.info:fence()
+end
+
+-- `isFramed` tells that the message's length stands in front of it.
+local function dissect_message(tvb, start, size, pinfo, tree, isFramed)
+  local view = { tvb = tvb, start = start, bytes = tvb:raw(start, size), isFramed = isFramed }
   local result = read_message(view.bytes)
-  show_in_columns(result, pinfo)
-  if not pinfo.visited and result.verdict ~= "refused" then
+  local text = summary(result)
+  show_in_columns(text, pinfo)
+  if isPaired[result.message] and not pinfo.visited and result.verdict ~= "refused" then
     link_message(result, view, pinfo)
   end
-  add_message(tree, result, view, pinfo)
+  add_message(tree, result, view, pinfo, text)
+  keep_columns(pinfo)
   return result
 end
 
 -- ---- Streams -----------------------------------------------------------------------------------
 --
--- A message in a stream has its length in front, 4 bytes, most significant first.
+-- A message in a stream has its length in front, most significant byte first.
 
-local lengthSize = 4
 local magic = "\0\72\0\0\0\1" -- what every message begins with: tag and length of its MessageId
 
 local function begins_with_message(bytes, at)
@@ -1508,9 +1550,8 @@ local function skip(tvb, at, size, pinfo, tree)
   local item = tree:add(tarn, tvb(at, size), "Tarn Signalling: no message")
   local text = counted(size, "byte") .. " that " .. (size == 1 and "is" or "are") .. " no message"
   item:add(fields.skipped, tvb(at, size)):add_proto_expert_info(experts.skipped, text)
-  pinfo.cols.protocol = "TARN"
-  pinfo.cols.info:set("[" .. text .. "]  ")
-  pinfo.cols.info:fence()
+  show_in_columns("[" .. text .. "]", pinfo)
+  keep_columns(pinfo)
 end
 
 -- Asks for more of the stream. Returns false if there is no more to be had.
@@ -1534,9 +1575,8 @@ local function dissect_frame(tvb, bytes, at, pinfo, tree)
     skip(tvb, at, left, pinfo, tree)
     return #bytes
   end
-  tree:add(fields.length, tvb(at, lengthSize))
   size = math.min(size, left - lengthSize)
-  dissect_message(tvb, at + lengthSize, size, pinfo, tree)
+  dissect_message(tvb, at + lengthSize, size, pinfo, tree, true)
   return at + lengthSize + size
 end
 
@@ -1581,6 +1621,8 @@ function tarn.dissector(tvb, pinfo, tree)
   dissect_message(tvb, 0, #bytes, pinfo, tree)
   return #bytes
 end
+
+ownDissector = Dissector.get("tarn")
 
 local function find_datagram(tvb, pinfo, tree)
   if not begins_with_message(tvb:raw(0, math.min(tvb:len(), #magic)), 0) then

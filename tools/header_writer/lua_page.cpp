@@ -37,6 +37,15 @@ private:
     std::string fields_;
 };
 
+// The name of the form in which people read a type's bytes; empty for plain numbers and hex.
+std::string formName(const std::string &type) {
+#define FORM(type_, form_)                                                                         \
+    if (type == #type_)                                                                            \
+        return #form_;
+#include "forms.def"
+    return "";
+}
+
 std::string shapeName(Shape shape) {
     switch (shape) {
     case Shape::scalar:
@@ -112,6 +121,8 @@ std::string primitiveRow(const Primitive &row) {
         text.number("least", row.least).number("greatest", row.greatest);
     if (row.shape == Shape::list)
         text.text("item", row.members.front());
+    if (const std::string form = formName(row.name); !form.empty())
+        text.text("form", form);
     return text.text("term", row.term).str();
 }
 
@@ -142,6 +153,14 @@ std::string conditionRow(const Condition &row) {
     return text.raw("inside", row.inside ? "true" : "false").text("meaning", row.meaning).str();
 }
 
+// The sentences of findings.
+std::string reasonRows() {
+    std::string text;
+#define REASON(name_, sentence_) text += "    " #name_ " = " + Row::quoted(sentence_) + ",\n";
+#include "tarn_info_reasons.def"
+    return text;
+}
+
 // The most bytes that any message can take.
 uint32_t greatestMessageSize(const Catalogue &catalogue) {
     uint32_t greatest = 0;
@@ -167,7 +186,7 @@ std::string luaRows(const Catalogue &catalogue) {
     text += "  },\n  conditions = {\n";
     for (const Condition &row : catalogue.conditions)
         text += "    " + row.name + " = " + conditionRow(row) + ",\n";
-    return text + "  },\n}\n\n";
+    return text + "  },\n  reasons = {\n" + reasonRows() + "  },\n}\n\n";
 }
 
 } // namespace header_writer
