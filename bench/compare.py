@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Turns the benchmarks' output into tables.
 
-    compare.py operations CALLGRIND.OUT TIMES.json...   times and instructions, with ratios
+    compare.py operations CALLGRIND.OUT TIMES.json...   instructions, and times as ratios
     compare.py linearity CALLGRIND.OUT                  instructions per IE as messages grow
 """
 import collections
@@ -13,11 +13,14 @@ import sys
 
 MESSAGES = ["SecurityModeReject", "AccessControlRequest", "UlDirectTransfer",
             "RabAssignmentRequest"]
-# How many times the yardstick each road may cost: the floor for the objects, the objects for the
-# one-call road.
-LIMITS = {("encode", "objects"): 1.30, ("decode", "objects"): 1.20,
-          ("encode", "one call"): 1.20, ("decode", "one call"): 1.20}
-COMPOSITE_LIMITS = {("encode", "objects"): 1.35, ("decode", "objects"): 1.25}
+ROADS = ["objects", "floor", "one call", "wire"]
+PEERS = ["nanopb", "protobuf-c", "protobuf", "flatbuffers", "capnp"]
+# How many times their floor the objects may cost.
+OBJECT_LIMITS = {"encode": 1.30, "decode": 1.20}
+NESTED_OBJECT_LIMITS = {"encode": 1.35, "decode": 1.20}
+# How many instructions the one call may take.
+ONE_CALL_LIMITS = {"SecurityModeReject": (60, 75), "AccessControlRequest": (105, 110),
+                   "UlDirectTransfer": (125, 145), "RabAssignmentRequest": (4000, 5500)}
 
 
 def read_times(paths):
@@ -52,32 +55,48 @@ def read_counts(prefix, turns=64):
             for name in dumps if name.endswith("/1")}
 
 
-def limit_for(message, direction, road):
-    if message == "RabAssignmentRequest":
-        return COMPOSITE_LIMITS.get((direction, road), LIMITS[direction, road])
-    return LIMITS[direction, road]
-
-
-def ratio(value, yardstick, limit):
-    result = value / yardstick
-    return f"{result:.2f}{' ' if result <= limit else '!'}"
-
-
-def print_operations(title, unit, figures):
-    print(f"{title} ({unit} per message; ! marks a ratio above its limit)\n")
-    print(f"{'message':<21} {'':<6} {'road':<8} {unit:>9} {'floor':>9} {'ratio':>6} {'limit':>6}"
-          f" {'nanopb':>9} {'protobuf-c':>10}")
+def rows(figures):
+    """Message, direction, and what each road and peer takes."""
     for message in MESSAGES:
         for direction in ("encode", "decode"):
-            one = {road: figures[f"{message}/{direction}/{road}"]
-                   for road in ("objects", "floor", "one call", "nanopb", "protobuf-c")}
-            for road, yardstick in (("objects", "floor"), ("one call", "objects")):
-                limit = limit_for(message, direction, road)
-                peers = f"{one['nanopb']:>9.0f} {one['protobuf-c']:>10.0f}"
-                print(f"{message:<21} {direction:<6} {road:<8} {one[road]:>9.0f}"
-                      f" {one[yardstick]:>9.0f} {ratio(one[road], one[yardstick], limit):>6}"
-                      f" {limit:>6.2f} {peers if road == 'objects' else ''}".rstrip())
-    print("\nThe floor of the one-call road is the road of objects.\n")
+            yield message, direction, {road: figures[f"{message}/{direction}/{road}"]
+                                       for road in ROADS + PEERS}
+
+
+def marked(value, over, width=8):
+    return f"{value:>{width}}{'!' if over else ' '}"
+
+
+def print_instructions(counts):
+    print("Instructions per message\n")
+    print(f"{'':<21} {'':<6} {'objects':>8}  {'floor':>8} {'ratio':>6} {'limit':>6}"
+          f" {'one call':>9}  {'limit':>5} {'wire':>6}" + "".join(f"{peer:>12}" for peer in PEERS))
+    for message, direction, one in rows(counts):
+        nested = message == "RabAssignmentRequest"
+        limit = (NESTED_OBJECT_LIMITS if nested else OBJECT_LIMITS)[direction]
+        most = ONE_CALL_LIMITS[message][direction == "decode"]
+        ratio = one["objects"] / one["floor"]
+        print(f"{message:<21} {direction:<6} {one['objects']:>8.0f} {one['floor']:>9.0f}"
+              f" {marked(f'{ratio:.2f}', ratio > limit, 6)}{limit:>6.2f}"
+              f" {marked(round(one['one call']), one['one call'] > most, 9)}{most:>6}"
+              f" {one['wire']:>6.0f}" + "".join(f"{one[peer]:>12.0f}" for peer in PEERS))
+    print("""
+ratio: the objects to their floor, which makes the same calls of the host. wire: bare loads and
+stores of that message. ! marks what is above its limit.
+""")
+
+
+def print_times(times):
+    print("Time, one call = 1.00\n")
+    print(f"{'':<21} {'':<6} {'one call':>11} {'objects':>8} {'floor':>7} {'wire':>7}"
+          + "".join(f"{peer:>13}" for peer in PEERS))
+    for message, direction, one in rows(times):
+        unit = one["one call"]
+        print(f"{message:<21} {direction:<6} {unit:>8.0f} ns"
+              f" {one['objects'] / unit:>8.2f} {one['floor'] / unit:>7.2f}"
+              f" {one['wire'] / unit:>7.2f}"
+              + "".join(marked(f"{one[peer] / unit:.2f}", one[peer] < unit, 12) for peer in PEERS))
+    print("\n! marks a peer that is faster than the one call.\n")
 
 
 def slope(points):
@@ -115,8 +134,8 @@ def print_linearity(dumps):
 
 def main(arguments):
     if arguments[:1] == ["operations"] and len(arguments) >= 3:
-        print_operations("Time", "ns", read_times(arguments[2:]))
-        print_operations("Instructions", "Ir", read_counts(arguments[1]))
+        print_instructions(read_counts(arguments[1]))
+        print_times(read_times(arguments[2:]))
     elif arguments[:1] == ["linearity"] and len(arguments) == 2:
         print_linearity(read_dumps(arguments[1]))
     else:

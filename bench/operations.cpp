@@ -1,5 +1,6 @@
 #include "operations.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -17,9 +18,14 @@ namespace {
 constexpr std::uint32_t bufferSize = 8192;
 
 struct Bytes {
-    std::uint8_t at[bufferSize];
+    alignas(8) std::uint8_t at[bufferSize]; // as Cap'n Proto wants it
     std::uint32_t length;
 };
+
+// The library's form of a message and the peers'.
+enum Format { wire, nanopb, protobuf_c, protobuf, flatbuffers, capnp, formats };
+constexpr const char *formatNames[] = {"",         "nanopb",      "protobuf-c",
+                                       "protobuf", "flatbuffers", "capnp"};
 
 // What the operations of one message work on. `sample` and the encoded forms are made once and then
 // only read.
@@ -27,10 +33,8 @@ template <class Record>
 struct Bench {
     Record sample;
     Record decoded;
-    Bytes wire;      // the sample as the library encodes it
-    Bytes nanopb;    // as the peers do
-    Bytes protobufC; //
-    Bytes out;       // what an encoder writes
+    Bytes encoded[formats];
+    Bytes out; // what an encoder writes
     std::uint32_t result;
 };
 
@@ -45,10 +49,10 @@ void encode() {
     bench.result = encoder(bench.out.at, bufferSize, &bench.sample);
 }
 
-template <class Record, auto decoder, Bytes Bench<Record>::*input>
+template <class Record, auto decoder, Format format>
 void decode() {
     Bench<Record> &bench = workbench<Record>;
-    const Bytes &from = bench.*input;
+    const Bytes &from = bench.encoded[format];
     bench.result = decoder(from.at, from.length, &bench.decoded);
 }
 
@@ -73,20 +77,21 @@ struct Message {
     bool (*decodedWell)();
 };
 
-template <class Record, auto builder, auto nanopbEncoder, auto protobufCEncoder>
+template <class Record, auto... encoders>
 void prepare() {
     Bench<Record> &bench = workbench<Record>;
     fill(&bench.sample);
-    bench.wire.length = builder(bench.wire.at, bufferSize, &bench.sample);
-    bench.nanopb.length = nanopbEncoder(bench.nanopb.at, bufferSize, &bench.sample);
-    bench.protobufC.length = protobufCEncoder(bench.protobufC.at, bufferSize, &bench.sample);
+    Bytes *next = bench.encoded;
+    ((next->length = encoders(next->at, bufferSize, &bench.sample), ++next), ...);
 }
 
 template <class Record>
 bool encoded_as(const char *road) {
     Bench<Record> &bench = workbench<Record>;
-    const bool isPeer = std::strcmp(road, "nanopb") == 0 || std::strcmp(road, "protobuf-c") == 0;
-    const Bytes &expected = isPeer ? bench.nanopb : bench.wire;
+    const auto *found =
+        std::find_if(formatNames + 1, formatNames + formats,
+                     [road](const char *name) { return std::strcmp(name, road) == 0; });
+    const Bytes &expected = bench.encoded[(found - formatNames) % formats];
     const bool ok = bench.result != 0 && same(expected, bench.out.at, expected.length);
     std::memset(bench.out.at, 0, sizeof bench.out.at);
     return ok;
@@ -97,7 +102,7 @@ bool decoded_well() {
     Bench<Record> &bench = workbench<Record>;
     std::uint8_t again[bufferSize];
     const std::uint32_t length = builder(again, bufferSize, &bench.decoded);
-    const bool ok = bench.result != 0 && same(bench.wire, again, length);
+    const bool ok = bench.result != 0 && same(bench.encoded[wire], again, length);
     bench.decoded = {};
     return ok;
 }
@@ -105,28 +110,29 @@ bool decoded_well() {
 #define TARN_MESSAGE(name_)                                                                        \
     {#name_,                                                                                       \
      prepare<Tarn##name_##Record, TarnBuild##name_##Msg, nanopb_encode_##name_,                    \
-             protobuf_c_encode_##name_>,                                                           \
+             protobuf_c_encode_##name_, protobuf_encode_##name_, flatbuffers_encode_##name_,       \
+             capnp_encode_##name_>,                                                                \
      encoded_as<Tarn##name_##Record>, decoded_well<Tarn##name_##Record, TarnBuild##name_##Msg>},
 
 const Message messages[] = {TARN_MESSAGE(SecurityModeReject) TARN_MESSAGE(AccessControlRequest)
                                 TARN_MESSAGE(UlDirectTransfer) TARN_MESSAGE(RabAssignmentRequest)};
 
+#define TARN_ROAD(name_, road_, encoder_, decoder_, format_)                                       \
+    {#name_ "/encode/" road_, encode<Tarn##name_##Record, encoder_>},                              \
+        {#name_ "/decode/" road_, decode<Tarn##name_##Record, decoder_, format_>},
+#define TARN_PEER(name_, peer_)                                                                    \
+    TARN_ROAD(name_, +std::string(formatNames[peer_]), peer_##_encode_##name_,                     \
+              peer_##_decode_##name_, peer_)
 #define TARN_OPERATIONS(name_)                                                                     \
-    {#name_ "/encode/objects", encode<Tarn##name_##Record, encode_##name_>},                       \
-        {#name_ "/encode/floor", encode<Tarn##name_##Record, FloorEncode##name_>},                 \
-        {#name_ "/encode/one call", encode<Tarn##name_##Record, TarnBuild##name_##Msg>},           \
-        {#name_ "/encode/nanopb", encode<Tarn##name_##Record, nanopb_encode_##name_>},             \
-        {#name_ "/encode/protobuf-c", encode<Tarn##name_##Record, protobuf_c_encode_##name_>},     \
-        {#name_ "/decode/objects",                                                                 \
-         decode<Tarn##name_##Record, decode_##name_, &Bench<Tarn##name_##Record>::wire>},          \
-        {#name_ "/decode/floor",                                                                   \
-         decode<Tarn##name_##Record, FloorDecode##name_, &Bench<Tarn##name_##Record>::wire>},      \
-        {#name_ "/decode/one call",                                                                \
-         decode<Tarn##name_##Record, TarnGet##name_##Msg, &Bench<Tarn##name_##Record>::wire>},     \
-        {#name_ "/decode/nanopb",                                                                  \
-         decode<Tarn##name_##Record, nanopb_decode_##name_, &Bench<Tarn##name_##Record>::nanopb>}, \
-        {#name_ "/decode/protobuf-c", decode<Tarn##name_##Record, protobuf_c_decode_##name_,       \
-                                             &Bench<Tarn##name_##Record>::protobufC>},
+    TARN_ROAD(name_, "objects", encode_##name_, decode_##name_, wire)                              \
+    TARN_ROAD(name_, "floor", FloorEncode##name_, FloorDecode##name_, wire)                        \
+    TARN_ROAD(name_, "one call", TarnBuild##name_##Msg, TarnGet##name_##Msg, wire)                 \
+    TARN_ROAD(name_, "wire", WireEncode##name_, WireDecode##name_, wire)                           \
+    TARN_PEER(name_, nanopb)                                                                       \
+    TARN_PEER(name_, protobuf_c)                                                                   \
+    TARN_PEER(name_, protobuf)                                                                     \
+    TARN_PEER(name_, flatbuffers)                                                                  \
+    TARN_PEER(name_, capnp)
 
 const Message &message_of(const std::string &operation) {
     for (const Message &message : messages)

@@ -13,8 +13,8 @@ struct Operation {
     void (*run)();
 };
 
-// Roads: "objects" and "one call" are the library's, "floor" is the floor of the objects (see
-// floor/floor.h), "nanopb" and "protobuf-c" carry the same content. Null runs do not occur.
+// Roads: "objects" and "one call" are the library's, "floor" and "wire" are their floors (see
+// floor/floor.h), and the peers' names stand for the same content in their format.
 const std::vector<Operation> &operations();
 
 // Runs each operation once and compares what it made with what the library's one call makes. Prints

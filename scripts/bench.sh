@@ -1,6 +1,6 @@
 #!/bin/sh
-# Builds the benchmarks, runs them, and prints time and instructions of each operation beside its
-# floor, and instructions per IE as messages grow.
+# Builds the benchmarks, runs them, and prints instructions and time of each operation beside its
+# floors and peers, and instructions per IE as messages grow.
 #
 #   scripts/bench.sh                   all of it
 #   scripts/bench.sh profile NAME      where an operation's instructions go, by function, e.g.

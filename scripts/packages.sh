@@ -10,7 +10,8 @@ tests=(clang clang-format clang-tidy libclang-rt-dev googletest binutils git pyt
     abigail-tools gcovr
     g++-arm-linux-gnueabihf g++-s390x-linux-gnu qemu-user)
 bench=(libbenchmark-dev nanopb libnanopb-dev libprotobuf-c-dev protobuf-c-compiler
-    protobuf-compiler valgrind python3)
+    protobuf-compiler libprotobuf-dev capnproto libcapnp-dev flatbuffers-compiler libflatbuffers-dev
+    valgrind python3)
 
 case "${1:-demo}" in
 demo) wanted=("${demo[@]}") ;;
