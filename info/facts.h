@@ -56,6 +56,12 @@ inline Slots slots_of(const TarnInfoMessage &message) {
     return {message.slots, message.slotCount};
 }
 
+// Whether the condition holds where the IE that it looks for has this value.
+inline bool condition_holds(const TarnInfoCondition &condition, std::uint32_t number) {
+    const std::uint32_t isInside = number < 32 ? condition.values >> number & 1 : 0;
+    return isInside == condition.isInside;
+}
+
 // The exported operations, with the types erased.
 struct MessageOperations {
     TarnMsg *(*create)();

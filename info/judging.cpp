@@ -1,10 +1,5 @@
 #include "judging.h"
 
-#include <cstring>
-#include <new>
-
-#include "objects.h"
-
 namespace info {
 
 Judged as_judged(const std::uint8_t *bytes, std::uint32_t length,
@@ -30,24 +25,6 @@ Packed pack(const TarnMsg *msg) {
 } // namespace info
 
 using namespace info;
-
-// Interim: by way of the objects.
-TarnInfoJudgement tarnInfoJudge(const uint8_t *bytes, uint32_t length) {
-    TarnInfoJudgement judgement{TarnInfoRefused, nullptr, 0, 0};
-    if (bytes == nullptr)
-        return judgement;
-    judgement.message = message_of_id(TarnGetMessageId(bytes, length));
-    TarnMsg *unpacked = nullptr;
-    if (TarnUnpackNewMsg(bytes, length, &unpacked) == 0)
-        return judgement;
-    const MsgPtr msg(unpacked);
-    judgement.verdict = tarnInfoIsMsgValid(msg.get()) != 0 ? TarnInfoValid : TarnInfoInvalid;
-    const Packed packed = pack(msg.get());
-    judgement.consumed = packed.size;
-    judgement.isPlain = judgement.verdict == TarnInfoValid && packed.size == length &&
-                        std::memcmp(packed.bytes.get(), bytes, length) == 0;
-    return judgement;
-}
 
 const char *tarnInfoVerdictWord(TarnInfoVerdict verdict) {
     static constexpr const char *words[] = {"valid", "invalid", "refused"};

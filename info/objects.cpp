@@ -126,30 +126,22 @@ uint32_t tarnInfoIsValueValid(const TarnInfoType *type, const void *value) {
 
 // ---- Conditions --------------------------------------------------------------------------------
 
-namespace {
-
-uint32_t is_called_for(const TarnInfoSlot *slot, const VelDllHead *list) {
-    if (slot == nullptr || slot->condition == nullptr)
-        return slot != nullptr ? 1 : 0;
-    const TarnInfoCondition &condition = *slot->condition;
-    for (const TarnIe *ie = first_ie(list); ie != nullptr; ie = next_ie(list, ie)) {
-        if (ie->tag != condition.tag)
-            continue;
-        const uint32_t number = *static_cast<const uint32_t *>(value_of(ie));
-        const uint32_t isInside = number < 32 ? condition.values >> number & 1 : 0;
-        return isInside == condition.isInside;
-    }
-    return 0;
+bool info::is_called_for(const TarnInfoSlot &slot, const VelDllHead *list) {
+    if (slot.condition == nullptr)
+        return true;
+    for (const TarnIe *ie = first_ie(list); ie != nullptr; ie = next_ie(list, ie))
+        if (ie->tag == slot.condition->tag)
+            return condition_holds(*slot.condition, *static_cast<const uint32_t *>(value_of(ie)));
+    return false;
 }
 
-} // namespace
-
 uint32_t tarnInfoIsCalledForInMsg(const TarnInfoSlot *slot, const TarnMsg *owner) {
-    return owner != nullptr ? is_called_for(slot, &owner->ies) : 0;
+    return slot != nullptr && owner != nullptr && is_called_for(*slot, &owner->ies);
 }
 
 uint32_t tarnInfoIsCalledForInIe(const TarnInfoSlot *slot, const TarnIe *owner) {
-    return composite_of(owner) != nullptr ? is_called_for(slot, children_of(owner)) : 0;
+    return slot != nullptr && composite_of(owner) != nullptr &&
+           is_called_for(*slot, children_of(owner));
 }
 
 // ---- Children ----------------------------------------------------------------------------------

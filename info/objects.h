@@ -41,6 +41,9 @@ using IePtr = std::unique_ptr<TarnIe, Deleter>;
 // A new IE object, unlinked: a composite without children, a primitive without a value yet.
 TarnIe *new_ie(const TarnInfoType &type);
 
+// Whether a child is called for in this slot, where the list holds the owner's children.
+bool is_called_for(const TarnInfoSlot &slot, const VelDllHead *list);
+
 } // namespace info
 
 #endif

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "judging.h"
+#include "printing.h"
 #include "readable.h"
 #include "reading.h"
 #include "text.h"
@@ -105,7 +106,7 @@ public:
         if (type.shape == TarnInfoNumber)
             out_.number(part.number);
         else
-            text(part);
+            put_json_value(part, switches_, &out_);
         return true;
     }
 
@@ -154,24 +155,6 @@ private:
             return;
         out_.put('\n');
         out_.fill(std::size_t{2} * depth_);
-    }
-
-    void text(const TarnInfoPart &part) {
-        const TarnInfoType &type = *part.type;
-        out_.put('"');
-        if (is_blacked_out(type, switches_)) {
-            out_.put("redacted");
-        } else if (is_address(type) || (switches_ & TarnInfoReadably) != 0) {
-            const std::uint32_t size = is_address(type) ? addressParts * addressItem : part.length;
-            const Readable form = readable(type, part.value, size);
-            if (form.length != 0)
-                out_.put(form.view());
-            else
-                out_.hex(part.value, part.length, false);
-        } else {
-            out_.hex(part.value, part.length, false);
-        }
-        out_.put('"');
     }
 
     Text &out_;
@@ -376,6 +359,24 @@ bool is_format(TarnInfoFormat format) {
 }
 
 } // namespace
+
+void put_json_value(const TarnInfoPart &part, std::uint32_t switches, Text *out) {
+    const TarnInfoType &type = *part.type;
+    if (type.shape == TarnInfoNumber)
+        return out->number(part.number);
+    out->put('"');
+    const bool isAddress = is_address(type);
+    Readable form;
+    if (isAddress || (switches & TarnInfoReadably) != 0)
+        form = readable(type, part.value, isAddress ? addressParts * addressItem : part.length);
+    if (is_blacked_out(type, switches))
+        out->put("redacted");
+    else if (form.length != 0)
+        out->put(form.view());
+    else
+        out->hex(part.value, part.length, false);
+    out->put('"');
+}
 
 } // namespace info
 
