@@ -53,6 +53,12 @@ void note(const char *what, const void *data, std::size_t size) {
     }
 }
 
+void note(const char *what, const std::string &text) {
+    if (heard.shown)
+        std::printf("  %s", text.c_str());
+    note(what, text.data(), text.size());
+}
+
 void note(const char *what, std::uint64_t number) {
     note(what, &number, sizeof number);
 }
@@ -63,7 +69,7 @@ void note_value(std::uint8_t *at, std::size_t size) {
 
 void hear_service(const char *service, const char *module) {
     if (heard.services)
-        note(service, module, std::strlen(module));
+        note(service, std::string(module));
 }
 
 // Returns what the call returns, and notes it with all that it reported.
@@ -76,7 +82,7 @@ std::uint64_t ask(const std::string &name, Call call) {
     const auto result = std::uint64_t(call());
     note("result", result);
     for (std::size_t i = fatals; i < test_host::fatal_reports().size(); ++i)
-        note("fatal", test_host::fatal_reports()[i].module.data(), 22);
+        note("fatal", test_host::fatal_reports()[i].module);
     for (std::size_t i = tokens; i < test_host::debug_tokens().size(); ++i)
         note("token", &test_host::debug_tokens()[i], sizeof(test_host::DebugToken));
     return result;
@@ -472,7 +478,7 @@ void code_header() {
     note("length", length);
     note("bytes", bytes, room.size());
     ask_all("IsComplexType", [&] { return TarnIsComplexType(tag & 0xFF); });
-    note("version", TarnGetInterfaceVersion(), 3);
+    note("version", std::string(TarnGetInterfaceVersion()));
 }
 
 // ---- Cases -------------------------------------------------------------------------------------

@@ -27,7 +27,8 @@ answers() {
 
 # first_difference: the number of the first case or group whose lines differ.
 first_difference() {
-    diff "$old.answers" "$new.answers" | sed -n 's/^[<>] \([0-9]*\) .*/\1/p' | sort -n | head -1
+    { diff "$old.answers" "$new.answers" || true; } |
+        sed -n 's/^[<>] \([0-9]*\) .*/\1/p' | sort -n | sed -n 1p
 }
 
 # both OLD NEW ARGUMENT...: runs both at once; false if they differ.
@@ -57,7 +58,7 @@ for form in speed compact; do
     both "$old-$form" "$new-$form" "$from" $group 1 || true
     case=$(first_difference)
     both "$old-$form" "$new-$form" "$case" || true
-    echo "$form: case $case, $1 (<) and this tree (>):"
-    diff --unified=1000 "$old.answers" "$new.answers" | cut -c1-200 | grep -B 40 -A 5 -m 1 '^[-+] ' || true
+    echo "$form: case $case, $1 (-) and this tree (+):"
+    diff --unified=20 "$old.answers" "$new.answers" | cut -c1-200 || true
     exit 1
 done
