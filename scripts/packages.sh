@@ -5,7 +5,7 @@
 #   scripts/packages.sh bench  that, and what the benchmarks compare with
 set -euo pipefail
 
-demo=(cmake ninja-build g++ libcli11-dev nlohmann-json3-dev)
+demo=(cmake ninja-build g++ libcli11-dev nlohmann-json3-dev zlib1g-dev)
 tests=(clang clang-format clang-tidy libclang-rt-dev googletest binutils git python3
     abigail-tools gcovr
     g++-arm-linux-gnueabihf g++-s390x-linux-gnu qemu-user)

@@ -38,12 +38,14 @@ Outcome run(const std::string &arguments, const std::string &input = "") {
 const std::string samples = SAMPLES_DIRECTORY "/";
 const std::string reset("\x00\x48\x00\x00\x00\x01\x11\x00\x06\x00\x00\x00\x02\x00\x01", 15);
 const char resetHex[] = "00480000000111 0006000000020001\n";
-const char resetJson[] = "{\"message\":\"Reset\",\"CnDomainId\":1}\n";
+const char resetJson[] =
+    "{\"packet\":1,\"time\":null,\"from\":null,\"to\":null,\"verdict\":\"valid\","
+    "\"message\":\"Reset\",\"CnDomainId\":1}\n";
 
-TEST(Tool, TellsTheVersionOfTheInterface) {
+TEST(Tool, TellsItsVersions) {
     const Outcome version = run("--version");
     EXPECT_EQ(version.status, 0);
-    EXPECT_EQ(version.out, "39\n");
+    EXPECT_EQ(version.out, "tarn 0.39.0\ninterface 39\nlibtarn.so.0\n");
 }
 
 TEST(Tool, DecodesStandardInput) {
@@ -78,16 +80,16 @@ TEST(Tool, PrintsATree) {
 }
 
 TEST(Tool, SaysWhereDecodingStopped) {
-    const Outcome decoded = run("decode --hex -", "0048000000011e 00010000000400000001 0004\n");
+    const Outcome decoded =
+        run("decode --from hex -", "0048000000011e 00010000000400000001 0004\n");
     EXPECT_EQ(decoded.status, 1);
-    EXPECT_EQ(
-        decoded.out,
-        "message 1 (standard input:1): HandoverDetect (id 30), 19 bytes, not decodable\n"
-        "     0  MessageId  [72]  30 (0x1e)\n"
-        "     7  Srnti       [1]  1 (0x00000001)\n"
-        "  not decodable: byte 17 (0x11), AcUeId: expected AcUeId [3], found RejectCause [4]\n"
-        "    bytes there: 00 04\n"
-        "\n");
+    EXPECT_EQ(decoded.out,
+              "message 1 (standard input:1): HandoverDetect (id 30), 19 bytes, refused\n"
+              "     0  MessageId  [72]  30 (0x1e)\n"
+              "     7  Srnti       [1]  1 (0x00000001)\n"
+              "  refused: byte 17 (0x11), AcUeId: expected AcUeId [3], found RejectCause [4]\n"
+              "    bytes there: 00 04\n"
+              "\n");
 }
 
 TEST(Tool, NumbersMessagesAcrossFiles) {
@@ -101,7 +103,7 @@ TEST(Tool, NumbersMessagesAcrossFiles) {
 TEST(Tool, TakesRawBytesInAndOut) {
     EXPECT_EQ(run("decode --json", reset).out, resetJson);
     EXPECT_EQ(run("decode --json --raw", reset).out, resetJson);
-    EXPECT_EQ(run("decode --hex", reset).status, 2);
+    EXPECT_EQ(run("decode --from hex", reset).status, 2);
     EXPECT_EQ(run("encode --raw", resetJson).out, reset);
     const Outcome both = run("encode --raw-output " + temporary_file("raw"), resetJson);
     EXPECT_EQ(both.out, resetHex);
@@ -131,7 +133,10 @@ TEST(Tool, ExitsByWhatWasWrong) {
         {"", "", 2},
         {"frobnicate", "", 2},
         {"decode --frobnicate", "", 2},
-        {"decode --raw --hex", resetHex, 2},
+        {"decode --json --hex", resetHex, 2},
+        {"decode --where Srnti=", resetHex, 2},
+        {"help decode", "", 0},
+        {"help decdoe", "", 2},
         {"decode --pretty", resetHex, 2},
         {"decode", "", 2},
         {"decode", "0g", 2},

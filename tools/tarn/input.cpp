@@ -1,132 +1,162 @@
 #include "tarn/input.h"
 
 #include <algorithm>
-#include <cctype>
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
+
+#include "tarn/capture/framer.h"
+#include "tarn/capture/packets.h"
+#include "tarn/terminal.h"
+#include "tarn/text/text.h"
+#include "tarn_info.h"
 
 namespace tool {
 
 namespace {
 
-constexpr std::string_view separators = " \t\r,;:-._|";
+using capture::Severity;
+using capture::View;
 
-std::string quoted(char c) {
-    if (std::isprint(static_cast<unsigned char>(c)) != 0)
-        return std::string("'") + c + "'";
-    return "a byte that is no text";
+constexpr std::size_t mostRaw = 16U << 20; // bytes: far beyond any message
+
+bool begins_frame(View start, std::uint32_t longest) {
+    if (start.size() < 10)
+        return false;
+    const std::uint32_t length = capture::big32(start.data());
+    return length <= longest && capture::MessageMark::begins(start.subspan(4));
 }
 
-unsigned digit_value(char c) {
-    if (std::isxdigit(static_cast<unsigned char>(c)) == 0)
-        throw InputError(quoted(c) + " is no hex digit");
-    return unsigned(c <= '9' ? c - '0' : (c | 0x20) - 'a' + 10);
+void read_raw(capture::Source &source, capture::Sink &sink) {
+    const View bytes = source.peek(mostRaw + 1);
+    if (bytes.size() > mostRaw)
+        return sink.trouble(Severity::fault, "",
+                            "longer than any message: no stream of messages "
+                            "and no capture either");
+    capture::Found found;
+    found.packet = 1;
+    found.bytes = bytes;
+    sink.message(found);
 }
 
-// A run of digits stands for whole bytes.
-void append_run(std::string_view run, Bytes *bytes) {
-    if (run.starts_with("0x") || run.starts_with("0X"))
-        run.remove_prefix(2);
-    if (run.empty())
-        throw InputError("0x without digits behind it");
-    for (std::size_t i = 0; i < run.size(); i += 2) {
-        const unsigned high = digit_value(run[i]);
-        if (i + 1 == run.size())
-            throw InputError("'" + std::string(run.substr(0, 40)) +
-                             "' has an odd number of hex digits");
-        bytes->push_back(std::uint8_t(high << 4 | digit_value(run[i + 1])));
-    }
-}
-
-// Reads hex text line by line.
-class HexReader {
+class Frames final : public capture::Framer::Taker {
 public:
-    void line(std::string_view text) {
-        ++number_;
-        const bool isIndented = text.starts_with(' ') || text.starts_with('\t');
-        const bool isComment = text.find_first_not_of(separators) == text.find('#');
-        const bool isBlank = text.find_first_not_of(separators) == text.npos;
-        if (isBlank || !(isIndented || isComment))
-            isOpen_ = false;
-        if (isBlank || isComment)
-            return;
-        if (!isOpen_)
-            messages_.push_back({number_, {}});
-        isOpen_ = true;
-        append_hex(text.substr(0, text.find('#')), &messages_.back().bytes);
-    }
+    explicit Frames(capture::Sink &sink) : sink_(sink) {}
 
-    unsigned number() const { return number_; }
-    std::vector<RawMessage> take() { return std::move(messages_); }
+    void framed(View message) override {
+        capture::Found found;
+        found.packet = ++count_;
+        found.bytes = message;
+        sink_.message(found);
+    }
+    void skipped(std::uint64_t count) override {
+        sink_.trouble(Severity::fault, "behind message " + std::to_string(count_),
+                      std::to_string(count) + " bytes skipped: no whole message");
+    }
 
 private:
-    std::vector<RawMessage> messages_;
-    unsigned number_ = 0;
-    bool isOpen_ = false; // whether an indented line continues the last message
+    capture::Sink &sink_;
+    std::uint64_t count_ = 0;
 };
 
-std::vector<RawMessage> split_hex(std::string_view content, const std::string &name) {
-    HexReader reader;
-    try {
-        while (!content.empty()) {
-            const std::size_t end = std::min(content.find('\n'), content.size());
-            reader.line(content.substr(0, end));
-            content.remove_prefix(std::min(end + 1, content.size()));
-        }
-    } catch (const InputError &error) {
-        throw InputError(name + ":" + std::to_string(reader.number()) + ": " + error.what());
+void read_frames(capture::Source &source, std::uint32_t longest, capture::Sink &sink) {
+    constexpr bool isTrusted = true;
+    capture::Framer framer(longest, isTrusted);
+    Frames frames(sink);
+    for (View bytes = source.some(); !bytes.empty(); bytes = source.some()) {
+        framer.feed(bytes, frames);
+        source.skip(bytes.size());
     }
-    return reader.take();
+    framer.lose(frames);
 }
+
+// Tells whether anything came through.
+class Counter final : public capture::Sink {
+public:
+    explicit Counter(capture::Sink &sink) : sink_(sink) {}
+
+    void message(const capture::Found &found) override {
+        isEmpty_ = false;
+        sink_.message(found);
+    }
+    void trouble(Severity severity, const std::string &place, const std::string &what) override {
+        isEmpty_ = isEmpty_ && severity == Severity::note;
+        sink_.trouble(severity, place, what);
+    }
+    bool is_empty() const { return isEmpty_; }
+
+private:
+    capture::Sink &sink_;
+    bool isEmpty_ = true;
+};
 
 } // namespace
 
-// By the C library, which reports the errors of reading as well as those of opening.
-std::string read_file(const std::string &path) {
-    std::FILE *file = path == "-" ? stdin : std::fopen(path.c_str(), "rb");
-    if (file == nullptr)
-        throw InputError(path + ": " + std::strerror(errno));
-    std::string content;
-    char chunk[65536];
-    while (const std::size_t count = std::fread(chunk, 1, sizeof chunk, file))
-        content.append(chunk, count);
-    const int error = std::ferror(file) != 0 ? errno : 0;
-    if (file != stdin)
-        std::fclose(file);
-    if (error != 0)
-        throw InputError(path + ": " + std::strerror(error));
-    return content;
+Form form_of(View start, std::uint32_t longest) {
+    if (capture::is_capture(start))
+        return Form::capture;
+    if (begins_frame(start, longest))
+        return Form::framed;
+    const bool holdsZero = std::find(start.begin(), start.end(), std::uint8_t{0}) != start.end();
+    return holdsZero ? Form::raw : Form::hex;
 }
 
-void append_hex(std::string_view text, Bytes *bytes) {
-    while (true) {
-        const std::size_t start = text.find_first_not_of(separators);
-        if (start == text.npos)
-            return;
-        text.remove_prefix(start);
-        const std::size_t end = std::min(text.find_first_of(separators), text.size());
-        append_run(text.substr(0, end), bytes);
-        text.remove_prefix(end);
-    }
+std::uint32_t longest_message() {
+    std::uint32_t count = 0;
+    const auto *messages = tarnInfoMessages(&count);
+    std::uint32_t longest = 0;
+    for (std::uint32_t i = 0; i < count; ++i)
+        longest = std::max(longest, messages[i]->largest);
+    return longest;
 }
 
-std::vector<RawMessage> split_messages(const std::string &content, Format format,
-                                       const std::string &name) {
-    std::vector<RawMessage> messages;
-    const bool holdsZero = content.find('\0') != content.npos;
-    if (format == Format::raw || (format == Format::detect && holdsZero)) {
-        if (!content.empty())
-            messages.push_back({0, Bytes(content.begin(), content.end())});
-    } else {
-        messages = split_hex(content, name);
+void read_messages(capture::Source &source, InputOptions options, capture::Sink &sink) {
+    Counter counter(sink);
+    options.capture.longest = longest_message();
+    Form form = options.form;
+    if (form == Form::detect)
+        form = form_of(source.peek(10), options.capture.longest);
+    if (!source.some().empty()) {
+        if (form == Form::capture)
+            capture::read_capture(source, options.capture, counter);
+        else if (form == Form::framed)
+            read_frames(source, options.capture.longest, counter);
+        else if (form == Form::raw)
+            read_raw(source, counter);
+        else
+            text::read_text(source, counter);
     }
-    if (messages.empty())
-        throw InputError(name + ": no message in it");
-    for (const RawMessage &message : messages)
-        if (message.bytes.size() > 0xFFFFFFFFU)
-            throw InputError(name + ": a message of 4 GiB or more");
-    return messages;
+    if (!source.defect().empty())
+        counter.trouble(Severity::fault, "", source.defect());
+    if (counter.is_empty())
+        counter.trouble(Severity::fault, "", "no message in it");
+}
+
+// ---- Files -------------------------------------------------------------------------------------
+
+void FileSink::trouble(Severity severity, const std::string &place, const std::string &what) {
+    streams_.err << "tarn: " << name_ << ": " << place << (place.empty() ? "" : ": ")
+                 << (severity == Severity::note ? "note: " : "") << what << '\n';
+    if (severity == Severity::fault)
+        status_ = exitUnusable;
+}
+
+void FileSink::read_file(const std::string &file, const InputOptions &options) {
+    capture::Source source(file);
+    source.beforeWaiting = [this] { streams_.out.flush(); };
+    Progress progress(name_, showsProgress_);
+    if (progress.is_shown())
+        source.progress = std::ref(progress);
+    read_messages(source, options, *this);
+}
+
+int FileSink::read(const std::vector<std::string> &files, const InputOptions &options) {
+    for (const std::string &file : files) {
+        name_ = file == "-" ? "standard input" : printable(file);
+        try {
+            read_file(file, options);
+        } catch (const capture::SourceError &error) {
+            trouble(Severity::fault, "", error.what());
+        }
+    }
+    return status_;
 }
 
 } // namespace tool

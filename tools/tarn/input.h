@@ -1,38 +1,46 @@
-// Reading what the tool is given: files, hex text, raw bytes.
+// Reading what the tool is given, whatever form it has.
 #ifndef TARN_TOOL_INPUT_H
 #define TARN_TOOL_INPUT_H
 
-#include <stdexcept>
-#include <string>
-#include <string_view>
-#include <vector>
-
-#include "tarn/values.h"
+#include "tarn/capture/capture.h"
+#include "tarn/commands.h"
 
 namespace tool {
 
-// What cannot be read: the text names the file and, where there is one, the line.
-struct InputError : std::runtime_error {
-    using std::runtime_error::runtime_error;
+// The form that input has which begins so; `Form::hex` stands for all text.
+Form form_of(capture::View start, std::uint32_t longest);
+
+// Hands the messages of an input to the sink. Throws capture::SourceError.
+void read_messages(capture::Source &source, InputOptions options, capture::Sink &sink);
+
+// The bytes of the longest message that there is.
+std::uint32_t longest_message();
+
+// Reads the files one after the other for a command: what cannot be read is told, and the rest goes
+// on. Returns exitUnusable if anything could not be read, else exitOk.
+class FileSink : public capture::Sink {
+public:
+    FileSink(const Streams &streams, bool showsProgress)
+        : streams_(streams), showsProgress_(showsProgress) {}
+    virtual ~FileSink() = default;
+
+    int read(const std::vector<std::string> &files, const InputOptions &options);
+    void trouble(capture::Severity severity, const std::string &place,
+                 const std::string &what) override;
+
+protected:
+    // The file that is read, fit for a terminal.
+    const std::string &file_name() const { return name_; }
+    const Streams &streams() const { return streams_; }
+
+private:
+    void read_file(const std::string &file, const InputOptions &options);
+
+    Streams streams_;
+    bool showsProgress_;
+    std::string name_;
+    int status_ = exitOk;
 };
-
-enum class Format { detect, hex, raw };
-
-struct RawMessage {
-    unsigned line; // on which it begins; 0 in raw input
-    Bytes bytes;
-};
-
-// The whole content of a file, or of standard input for "-".
-std::string read_file(const std::string &path);
-
-// The bytes that a run of text holds as hex digits, with any of " \t,;:-._|" between bytes and 0x
-// before them. Throws InputError, without a place, for anything else.
-void append_hex(std::string_view text, Bytes *bytes);
-
-// The messages of a file's content. `name` is what errors call the file.
-std::vector<RawMessage> split_messages(const std::string &content, Format format,
-                                       const std::string &name);
 
 } // namespace tool
 

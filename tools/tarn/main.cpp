@@ -1,109 +1,326 @@
 // The command line.
 #include <CLI/CLI.hpp>
 
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <iostream>
 
 #include "tarn/commands.h"
+#include "tarn/near_names.h"
+#include "tarn/output.h"
+#include "tarn/terminal.h"
+#include "tarn/usage.h"
+#include "tarn_info.h"
 
 namespace {
 
-constexpr const char *decodeHelp =
-    R"(Prints each message as a tree: the byte at which an IE begins, its name, tag and value, and whether
-the message is valid; or says at which byte and IE the decoding stopped, and why.
+using tool::Form;
 
-Hex text: one message a line; indented lines continue the message before them, a blank line ends it.
-A # begins a comment. Blanks and any of , ; : - . _ | may stand between bytes, and 0x before them.
-Raw bytes: one message a file. Input that holds a zero byte is taken as raw, any other as hex text,
-unless --raw or --hex says otherwise.)";
+const std::map<std::string, Form> forms = {{"auto", Form::detect},
+                                           {"hex", Form::hex},
+                                           {"raw", Form::raw},
+                                           {"framed", Form::framed},
+                                           {"capture", Form::capture}};
 
-constexpr const char *encodeHelp =
-    R"(Builds messages from JSON: objects one after the other, or arrays of them, in the form that
-decode --json writes. Each hex line is one message, with a blank between its IEs.
+// All that the command line can say.
+struct CommandLine {
+    tool::DecodeOptions decode;
+    tool::StatsOptions stats;
+    tool::EncodeOptions encode;
+    std::vector<std::string> diffFiles;
+    tool::InputOptions diffInput;
+    std::vector<std::string> names;
+    bool describesAsJson = false;
+    std::string schema;
+    bool raw = false;
+    bool readable = false;
+    bool redact = false;
+    std::string color = "auto";
+    std::string helpOn;
+};
 
-  {"message": "Reset", "CnDomainId": 1}
-
-Numbers are JSON numbers or strings like "0x1f"; byte strings are strings of hex digits; an
-IpAddress is a string like "10.0.0.1"; records and sequence composites are objects; lists are
-arrays. The MessageId follows from the message's name. `describe` tells what a message holds.)";
-
-constexpr const char *footer = R"(
-
-Exit status:
-  0  every message is decodable and valid, or was encoded
-  1  a message is not decodable or not valid, or breaks a rule of the protocol
-  2  the command line is wrong, or input or output fails)";
-
-void add_decode(CLI::App &app, tool::DecodeOptions *options, bool *raw, bool *hex) {
-    CLI::App *decode = app.add_subcommand("decode", "Bytes to readable trees, or to JSON");
-    decode->add_option("FILE", options->files, "What to read; standard input for - or none");
-    CLI::Option *rawFlag = decode->add_flag("--raw", *raw, "Take the input as raw bytes");
-    decode->add_flag("--hex", *hex, "Take the input as hex text")->excludes(rawFlag);
-    CLI::Option *json = decode->add_flag(
-        "--json", options->json, "Write JSON, one object a line; what is wrong goes to stderr");
-    decode->add_flag("--pretty", options->pretty, "Write the JSON indented")->needs(json);
-    decode->footer(std::string(decodeHelp) + footer);
+void add_input(CLI::App *command, tool::InputOptions *input) {
+    command
+        ->add_option("--from", input->form,
+                     "What the input is: auto, hex (all text), raw, framed or capture")
+        ->transform(CLI::CheckedTransformer(forms, CLI::ignore_case).description(""))
+        ->type_name("FORM");
+    command->add_option("--port", input->capture.ports, "Take what is on this port for messages")
+        ->type_name("N")
+        ->expected(1)
+        ->take_all();
+    command
+        ->add_option("--link", input->capture.links,
+                     "Take the packets of this link type for bare messages")
+        ->type_name("N")
+        ->expected(1)
+        ->take_all();
 }
 
-void add_encode(CLI::App &app, tool::EncodeOptions *options, bool *hex) {
-    CLI::App *encode = app.add_subcommand("encode", "JSON to bytes");
-    encode->add_option("FILE", options->files, "What to read; standard input for - or none");
-    CLI::Option *raw =
-        encode->add_flag("--raw", options->raw, "Write the raw bytes of the one message given");
-    encode->add_flag("--hex", *hex, "Write hex text (the default)")->excludes(raw);
-    encode->add_option("--raw-output", options->rawOutput,
-                       "Write the raw bytes of the one message given to this file as well");
-    encode->footer(std::string(encodeHelp) + footer);
+void add_filter(CLI::App *command, tool::FilterOptions *filter) {
+    command->add_option("--only", filter->only, "Only messages of which one of these holds")
+        ->type_name("TERMS")
+        ->expected(1)
+        ->take_all();
+    command->add_option("--not", filter->butNot, "No messages of which one of these holds")
+        ->type_name("TERMS")
+        ->expected(1)
+        ->take_all();
+    command->add_option("--where", filter->where, "Only messages for which this holds")
+        ->type_name("EXPRESSION");
+    command->add_flag("--errors", filter->errors, "Only messages that are refused or invalid");
+}
+
+void add_files(CLI::App *command, std::vector<std::string> *files) {
+    command->add_option("FILE", *files, "What to read; standard input for - or none")
+        ->type_name("");
+}
+
+void add_decode(CLI::App &app, CommandLine *line) {
+    tool::DecodeOptions *options = &line->decode;
+    CLI::App *command = app.add_subcommand("decode", "Prints messages: as trees, lines or JSON");
+    add_files(command, &options->files);
+    const auto output = [&](const char *name, tool::Output value, const char *what) {
+        return command->add_flag_function(
+            name, [options, value](std::int64_t) { options->output = value; }, what);
+    };
+    CLI::Option *json = output("--json", tool::Output::json, "A line of JSON for each");
+    command->add_flag("--pretty", options->pretty, "JSON on many lines")->needs(json);
+    CLI::Option *summary = output("--summary", tool::Output::summary,
+                                  "A line for each: time, ends, message, UE, verdict");
+    CLI::Option *hex = output("--hex", tool::Output::hex, "The bytes beside what they are");
+    CLI::Option *fields = command->add_option_function<std::string>(
+        "--fields",
+        [options](const std::string &names) {
+            options->fields = names;
+            options->output = tool::Output::fields;
+        },
+        "The values of these, with tabs between: IEs by name or path, packet, time, from, to, "
+        "verdict, message, size");
+    fields->type_name("NAMES");
+    CLI::Option *const outputs[] = {json, summary, hex, fields};
+    for (CLI::Option *one : outputs)
+        for (CLI::Option *other : outputs)
+            if (one != other)
+                one->excludes(other);
+    command
+        ->add_option("--pcapng", options->pcapng,
+                     "Also write the messages to this capture, as exported PDUs")
+        ->type_name("FILE");
+    command->add_flag("--readable", line->readable,
+                      "JSON: digits of identities and the like instead of hex");
+    command
+        ->add_flag("--redact", line->redact,
+                   "Black out keys, identities and what is passed through: tree, JSON, summary")
+        ->excludes(hex)
+        ->excludes(fields);
+    add_filter(command, &options->filter);
+    add_input(command, &options->input);
+    command->add_flag("--raw", line->raw, "The same as --from raw");
+    command->add_option("--color", line->color, "auto, always or never")
+        ->check(CLI::IsMember({"auto", "always", "never"}).description(""))
+        ->type_name("WHEN");
+    command->footer(tool::decodeFooter);
+}
+
+void add_stats(CLI::App &app, tool::StatsOptions *options) {
+    CLI::App *command =
+        app.add_subcommand("stats", "Counts messages: by type, verdict, reason, UE, size, time");
+    add_files(command, &options->files);
+    add_filter(command, &options->filter);
+    add_input(command, &options->input);
+    command->add_flag("--per-second", options->perSecond, "Also the count of each second");
+    command->footer(tool::statsFooter);
+}
+
+void add_diff(CLI::App &app, CommandLine *line) {
+    CLI::App *command = app.add_subcommand("diff", "Tells the messages of two files apart, by IE");
+    command->add_option("FILES", line->diffFiles, "Two files; - for standard input")
+        ->type_name("")
+        ->required()
+        ->expected(2);
+    add_input(command, &line->diffInput);
+    command->footer(tool::diffFooter);
+}
+
+void add_encode(CLI::App &app, tool::EncodeOptions *options) {
+    CLI::App *command = app.add_subcommand("encode", "JSON to bytes");
+    add_files(command, &options->files);
+    command->add_flag("--raw", options->raw, "Write the raw bytes of the one message given");
+    command
+        ->add_option("--raw-output", options->rawOutput,
+                     "Write the raw bytes of the one message given to this file as well")
+        ->type_name("FILE");
+    command->add_flag("--force", options->force,
+                      "Write what no receiver would take, as far as it can be said");
+    command->footer(tool::encodeFooter);
+}
+
+void add_describe(CLI::App &app, CommandLine *line) {
+    CLI::App *command =
+        app.add_subcommand("describe", "What the protocol contains, or messages, IEs and tokens");
+    command
+        ->add_option("NAME", line->names,
+                     "A message's name or id, an IE's name, tag:N, a debug token, or a pattern")
+        ->type_name("");
+    command->add_flag("--json", line->describesAsJson, "As JSON");
+    command
+        ->add_option("--schema", line->schema,
+                     "The columns of decode's JSON lines, for duckdb or spark")
+        ->check(CLI::IsMember({"duckdb", "spark"}).description(""))
+        ->type_name("ENGINE");
+    command->footer(tool::describeFooter);
+}
+
+std::string version() {
+    return std::string("tarn ") + TARN_TOOL_VERSION + "\ninterface " + TarnGetInterfaceVersion() +
+           "\n" + TARN_TOOL_SONAME;
+}
+
+// ---- Mistakes ----------------------------------------------------------------------------------
+
+// The nearest name that there is to one that there is not.
+std::string nearest(const CLI::App &app, const std::string &wrong) {
+    const bool isOption = wrong.starts_with("-");
+    std::vector<std::string> names;
+    for (const CLI::App *command : app.get_subcommands({}))
+        names.push_back(command->get_name());
+    const auto used = app.get_subcommands();
+    if (isOption) {
+        names.clear();
+        for (const CLI::Option *option : (used.empty() ? &app : used.front())->get_options())
+            for (const std::string &name : option->get_lnames())
+                names.push_back("--" + name);
+    }
+    return tool::suggestion(wrong.substr(0, wrong.find('=')), {names.begin(), names.end()});
+}
+
+int refuse(const CLI::App &app, const std::string &what) {
+    const auto used = app.get_subcommands();
+    std::fprintf(stderr, "tarn: %s\nSee tarn help%s.\n", what.c_str(),
+                 used.empty() ? "" : (" " + used.front()->get_name()).c_str());
+    return tool::exitUnusable;
+}
+
+int refuse_arguments(const CLI::App &app, const CLI::ParseError &error, int argc, char **argv) {
+    const auto used = app.get_subcommands();
+    std::vector<std::string> left = app.remaining(true);
+    if (left.empty() && used.empty() && argc > 1)
+        left.push_back(argv[1]);
+    if (left.empty())
+        return refuse(app, tool::printable(error.what()));
+    const std::string &wrong = left.front();
+    const char *kind = wrong.starts_with("-") ? "option" : used.empty() ? "command" : "argument";
+    return refuse(app, std::string("no ") + kind + " '" + tool::printable(wrong) + "'" +
+                           nearest(app, wrong));
+}
+
+int help(const CLI::App &app, const std::string &command) {
+    if (command.empty()) {
+        std::cout << app.help();
+        return tool::exitOk;
+    }
+    const auto commands = app.get_subcommands({});
+    const auto found = std::find_if(commands.begin(), commands.end(), [&](const CLI::App *each) {
+        return each->get_name() == command;
+    });
+    if (found == commands.end())
+        return refuse(app, "no command '" + tool::printable(command) + "'" + nearest(app, command));
+    std::cout << (*found)->help();
+    return tool::exitOk;
+}
+
+// ---- Running -----------------------------------------------------------------------------------
+
+void complete(CommandLine *line) {
+    if (line->raw)
+        line->decode.input.form = Form::raw;
+    if (line->readable)
+        line->decode.switches |= TarnInfoReadably;
+    if (line->redact)
+        line->decode.switches |= TarnInfoRedact | TarnInfoRedactPayloads;
+    line->decode.colours =
+        line->color == "auto" ? tool::wants_colours(STDOUT_FILENO) : line->color == "always";
+    // A progress line would run through what is printed to the same terminal.
+    line->decode.progress = line->stats.progress = isatty(STDOUT_FILENO) == 0;
+    for (auto *files : {&line->decode.files, &line->stats.files, &line->encode.files})
+        if (files->empty())
+            files->emplace_back("-");
+}
+
+int dispatch(const CLI::App &app, const CommandLine &line) {
+    const tool::Streams streams{std::cout, std::cerr};
+    if (app.got_subcommand("decode"))
+        return tool::decode(line.decode, streams);
+    if (app.got_subcommand("stats"))
+        return tool::stats(line.stats, streams);
+    if (app.got_subcommand("diff"))
+        return tool::diff(line.diffFiles, line.diffInput, streams);
+    if (app.got_subcommand("encode"))
+        return tool::encode(line.encode, streams);
+    if (app.got_subcommand("help"))
+        return help(app, line.helpOn);
+    if (!line.schema.empty())
+        return tool::describe_schema(line.schema, streams);
+    return tool::describe(line.names.empty() ? "" : line.names.front(), streams);
 }
 
 int run(int argc, char **argv) {
     CLI::App app{"Decodes, encodes and describes the messages between a 3G access point and its "
                  "access controller.",
                  "tarn"};
-    app.set_version_flag(
-        "--version", [] { return std::string(TarnGetInterfaceVersion()); },
-        "Print the version of the interface and exit");
+    CommandLine line;
+    app.set_version_flag("--version", version, "Print the versions and exit");
     app.require_subcommand(1);
-    app.footer(std::string("Each subcommand has a --help of its own.") + footer);
-    bool raw = false;
-    bool hex = false;
-    tool::DecodeOptions decode;
-    tool::EncodeOptions encode;
-    std::string name;
-    add_decode(app, &decode, &raw, &hex);
-    add_encode(app, &encode, &hex);
-    app.add_subcommand("describe", "What the protocol contains, or one message or IE")
-        ->add_option("NAME", name, "A message's name or id, an IE's name, or tag:N");
+    app.footer(tool::toolFooter);
+    add_decode(app, &line);
+    add_stats(app, &line.stats);
+    add_diff(app, &line);
+    add_encode(app, &line.encode);
+    add_describe(app, &line);
+    app.add_subcommand("help", "What a command does, with examples")
+        ->add_option("COMMAND", line.helpOn, "A command's name")
+        ->type_name("");
     try {
         app.parse(argc, argv);
+        complete(&line);
+        return dispatch(app, line);
+    } catch (const CLI::Success &success) { // help and version
+        return app.exit(success);
     } catch (const CLI::ParseError &error) {
-        // The parser has exit statuses of its own for each kind of mistake.
-        return app.exit(error) == 0 ? tool::exitOk : tool::exitUnusable;
+        return refuse_arguments(app, error, argc, argv);
+    } catch (const tool::UsageError &error) {
+        return refuse(app, error.what());
     }
-    decode.format = raw ? tool::Format::raw : hex ? tool::Format::hex : tool::Format::detect;
-    const tool::Streams streams{std::cout, std::cerr};
-    for (auto *files : {&decode.files, &encode.files})
-        if (files->empty())
-            files->emplace_back("-");
-    if (app.got_subcommand("decode"))
-        return tool::decode(decode, streams);
-    if (app.got_subcommand("encode"))
-        return tool::encode(encode, streams);
-    return tool::describe(name, streams);
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
+    std::signal(SIGPIPE, SIG_IGN); // writing fails instead
+    tool::FileBuffer buffer(STDOUT_FILENO);
+    std::cout.rdbuf(&buffer);
+    std::cout.exceptions(std::ios::badbit);
+    int status = tool::exitUnusable;
     try {
-        std::ios::sync_with_stdio(false);
-        const int status = run(argc, argv);
-        if (std::cout.flush())
-            return status;
-        std::fputs("tarn: cannot write the output\n", stderr);
+        status = run(argc, argv);
+        std::cout.flush();
+    } catch (const tool::OutputError &error) {
+        if (!error.isClosed)
+            std::fprintf(stderr, "tarn: cannot write the output: %s\n", error.what());
+        status = tool::exitUnusable;
+    } catch (const std::bad_alloc &) {
+        std::fputs("tarn: out of memory\n", stderr);
+        status = tool::exitUnusable;
     } catch (const std::exception &error) {
         std::fprintf(stderr, "tarn: %s\n", error.what());
+        status = tool::exitUnusable;
     }
-    return tool::exitUnusable;
+    std::cout.exceptions(std::ios::goodbit);
+    std::cout.rdbuf(nullptr);
+    return status;
 }
