@@ -15,7 +15,7 @@ build=build/coverage
 compact=build/coverage-compact
 configure() {
     cmake -G Ninja -S . -DCMAKE_C_COMPILER=gcc -DCMAKE_CXX_COMPILER=g++ -DCMAKE_BUILD_TYPE=Debug \
-        -DTARN_COVERAGE=ON -DTARN_TOOLS=OFF "$@" >/dev/null
+        -DTARN_COVERAGE=ON -DTARN_TOOLS=OFF -DTARN_INFO=OFF "$@" >/dev/null
 }
 if [ "${1:-}" != --measure ]; then
     configure -B $build

@@ -49,7 +49,7 @@ private:
 constexpr const char *introduction = R"(# Reference tables
 
 <!-- Written by header_writer from the rows in src/catalogue; do not edit: change the rows or
-tools/header_writer, then run `cmake --build build --target headers`. -->
+tools/header_writer, then run `cmake --build build --target tarn_headers`. -->
 
 Every IE on the wire is a 2-byte tag, a 4-byte length and a value; integers are big-endian. A
 message is a run of IEs. What the operations do with them stands in the headers in `include/`.

@@ -1,0 +1,90 @@
+#!/usr/bin/env bash
+# Installs a release build below build/install and uses it there as others would: by pkg-config, by
+# find_package, by add_subdirectory and by FetchContent; from a prefix, from one that was moved, and
+# from a staging directory.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+root=$PWD
+work=$root/build/install
+program=$root/examples/send_receive.c
+expected=$(cat tests/examples/send_receive.txt)
+
+say() { echo "-- $*"; }
+fail() {
+    echo "install: $*" >&2
+    exit 1
+}
+# runs LIBRARY_DIRECTORY PROGRAM: prints what the example prints.
+runs() {
+    local printed
+    printed=$(LD_LIBRARY_PATH=$1 "$2") || fail "$2 does not run"
+    [ "$printed" = "$expected" ] || fail "$2 printed: $printed"
+    echo "   $printed"
+}
+# tool_runs PREFIX: the tool finds its libraries by itself.
+tool_runs() {
+    env -u LD_LIBRARY_PATH "$1/bin/tarn" decode examples/messages/UeContextRequest.hex >/dev/null ||
+        fail "$1/bin/tarn does not run"
+    say "the tool runs in ${1#"$root"/}"
+}
+# by_pkg_config PREFIX MODULE SOURCE...
+by_pkg_config() {
+    local prefix=$1 module=$2
+    shift 2
+    PKG_CONFIG_PATH=$prefix/lib/pkgconfig pkg-config --print-errors --exists "$module"
+    # shellcheck disable=SC2046 # the words of pkg-config are words of the command
+    cc -o "$work/program" "$@" $(PKG_CONFIG_PATH=$prefix/lib/pkgconfig pkg-config --cflags --libs "$module")
+    say "pkg-config $module, in ${prefix#"$root"/}"
+    runs "$prefix/lib" "$work/program"
+}
+# by_cmake WAY ARGUMENT...: builds tests/install that way.
+by_cmake() {
+    local way=$1 build=$work/$1
+    shift
+    say "$way"
+    cmake -S tests/install -B "$build" -G Ninja -DWAY="$way" -DPROGRAM="$program" \
+        -DTARN_SOURCE="$root" "$@" >"$build.log" 2>&1 ||
+        { cat "$build.log"; fail "$way"; }
+    cmake --build "$build" -- --quiet
+    runs "" "$build/program"
+    runs "" "$build/program_reversed"
+}
+# builds_alone BUILD: the guest has compiled the libraries that were linked, and nothing of ours else.
+builds_alone() {
+    local others
+    others=$(ninja -C "$1" -t targets all | grep -E '^libtarn/.*\.o:|^_deps/.*\.o:' |
+        grep -vE '/(tarn|tarn_host|tarn_info)\.dir/' || true)
+    [ -z "$others" ] || fail "compiled for a guest: $others"
+    ! grep -q -e -Werror "$1/build.ninja" || fail "a guest's warnings stop its host"
+}
+
+[ -f build/release/CMakeCache.txt ] || cmake --preset release -DTARN_TESTS=OFF >/dev/null
+cmake --build build/release -- --quiet
+rm -rf "$work"
+mkdir -p "$work"
+
+cmake --install build/release --prefix "$work/prefix" >"$work/log"
+by_pkg_config "$work/prefix" tarn_host "$program"
+by_pkg_config "$work/prefix" tarn "$program" examples/own_host.c
+tool_runs "$work/prefix"
+mv "$work/prefix" "$work/moved"
+by_pkg_config "$work/moved" tarn_host "$program"
+by_cmake find_package -DCMAKE_PREFIX_PATH="$work/moved" -DCOMPONENTS="host;info"
+tool_runs "$work/moved"
+[ ! -e "$work/moved/include/vel_platform.h" ] || fail "vel_platform.h lies among everybody's headers"
+
+DESTDIR=$work/stage cmake --install build/release --prefix /usr >"$work/log"
+tool_runs "$work/stage/usr"
+by_pkg_config "$work/stage/usr" tarn_host "$program"
+
+# A library directory that was given as a whole path.
+cmake -S . -B "$work/absolute" -G Ninja -DTARN_TOOLS=OFF -DTARN_EXAMPLES=OFF -DTARN_TESTS=OFF \
+    -DCMAKE_BUILD_TYPE=Debug -DCMAKE_INSTALL_LIBDIR="$work/else/lib" >"$work/log"
+cmake --build "$work/absolute" -- --quiet
+cmake --install "$work/absolute" --prefix "$work/else" >"$work/log"
+by_pkg_config "$work/else" tarn_host "$program"
+
+by_cmake add_subdirectory
+builds_alone "$work/add_subdirectory"
+by_cmake FetchContent
+builds_alone "$work/FetchContent"
