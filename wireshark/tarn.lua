@@ -502,6 +502,7 @@ local rows = {
     IgnoredFrom = "{number:byte} ignored, from {found} on",
     IgnoredForeign = "{number:byte} ignored, from {found} on, which is no IE of {message}",
     IgnoredUnordered = "{number:byte} ignored, from {found} on, which stands twice or out of order",
+    LeftOut = ", so {name} was left out",
   },
 }
 
