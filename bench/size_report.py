@@ -2,6 +2,7 @@
 """Reports the sizes of a libtarn built with -fcallgraph-info=su.
 
     size_report.py TITLE STRIPPED.SO OBJECT_DIRECTORY [TOOL_PREFIX]
+    size_report.py TITLE BUILT_FOR_SPEED.SO
 """
 import collections
 import pathlib
@@ -11,6 +12,8 @@ import sys
 
 FILE_LIMIT = 150 * 1024
 ENGINE_LIMIT = 16 * 1024
+SPEED_TEXT_LIMIT = 520000
+STACK_LIMITS = {"decode": 2400, "get": 2304, "build": 1664}
 STACK_LIMIT = 8 * 1024
 
 # How deep types nest, which bounds every recursion: a HandoverRequest's composites go nine deep
@@ -194,16 +197,21 @@ def report_stack(tools, directory):
                         ("validate", "TarnIsHandoverRequestMsgValid"),
                         ("pack", "TarnPackHandoverRequestMsg"), ("delete", "TarnDeleteMsg")):
         size, chain = graph.deepest(entry, known)
-        print(f"  {verb:<9} {verdict(size, STACK_LIMIT)}")
+        print(f"  {verb:<9} {verdict(size, STACK_LIMITS.get(verb, STACK_LIMIT))}")
         show_chain(tools, graph, chain)
 
 
 def main(arguments):
-    if len(arguments) not in (3, 4):
+    if len(arguments) not in (2, 3, 4):
         sys.exit(__doc__)
-    title, library, directory = arguments[:3]
-    tools = arguments[3] if len(arguments) == 4 else ""
+    title, library = arguments[:2]
     print(f"==== {title}\n")
+    if len(arguments) == 2:
+        text = int(run("size", library).splitlines()[1].split()[0])
+        print(f"Text, constants and symbols: {verdict(text, SPEED_TEXT_LIMIT)}\n")
+        return
+    directory = arguments[2]
+    tools = arguments[3] if len(arguments) == 4 else ""
     report_file(tools, library)
     print()
     report_engine(tools, directory)

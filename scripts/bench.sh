@@ -1,6 +1,6 @@
 #!/bin/sh
 # Builds the benchmarks, runs them, and prints instructions and time of each operation beside its
-# floors and peers, and instructions per IE as messages grow.
+# floors and peers, and instructions per IE as messages grow; draws the peers as a chart.
 #
 #   scripts/bench.sh                   all of it
 #   scripts/bench.sh profile NAME      where an operation's instructions go, by function, e.g.
@@ -41,3 +41,5 @@ done
 count tarn_linearity
 python3 bench/compare.py operations "$build/tarn_count.callgrind" "$build"/times.?.json
 python3 bench/compare.py linearity "$build/tarn_linearity.callgrind"
+python3 bench/chart.py "$build/tarn_count.callgrind" "$build/one_call.svg"
+echo "The first table as a chart: $build/one_call.svg, of which docs/one_call.svg is a copy."

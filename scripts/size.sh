@@ -1,6 +1,7 @@
 #!/bin/sh
 # Builds the smallest library for 32-bit ARM (Thumb-2) and for this machine, and reports how large
-# it is, how much of it the engine is, and how much stack it takes. `!` marks what is over its limit.
+# it is, how much of it the engine is, and how much stack it takes; and how large the library is
+# that is built for speed. `!` marks what is over its limit.
 set -eu
 cd "$(dirname "$0")/.."
 
@@ -24,3 +25,8 @@ mkdir -p build
 measure "32-bit ARM, Thumb-2, -Os" build/size-armhf arm-linux-gnueabihf- \
     -DCMAKE_TOOLCHAIN_FILE=cmake/toolchains/armhf.cmake
 measure "This machine, -Os" build/size-native ""
+
+cmake -S . -B build/size-speed -G Ninja -DCMAKE_BUILD_TYPE=Release -DTARN_TOOLS=OFF \
+    -DTARN_EXAMPLES=OFF -DTARN_TESTS=OFF >build/size-speed.log
+cmake --build build/size-speed --target tarn >>build/size-speed.log
+python3 bench/size_report.py "This machine, -O2" build/size-speed/src/libtarn.so.0
