@@ -390,9 +390,14 @@ void get(const Message &type, const Block &input, const Nodes &former) {
     const std::uint64_t got = ask(std::string("Get") + type.name, [&] {
         return type.get(given(input.data()), input.size(), given(record.data()));
     });
-    visit_record(type.slots, record.data(), 1, note_value);
+    // What stands behind a length or count is up to Get; Build may come to read it.
+    Block known(record.size());
+    visit_record(type.slots, record.data(), 1, [&](std::uint8_t *at, std::size_t size) {
+        note_value(at, size);
+        std::memcpy(known.data() + (at - record.data()), at, size);
+    });
     if (got != 0)
-        build(type, std::move(record), input.size());
+        build(type, std::move(known), input.size());
 }
 
 // ---- Single IEs, values and headers ------------------------------------------------------------
