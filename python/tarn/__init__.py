@@ -12,6 +12,7 @@ import ctypes
 import json
 import subprocess
 import tempfile
+import threading
 from collections.abc import Mapping
 
 from . import _library, _rows
@@ -112,16 +113,33 @@ _TYPES = _message_types()
 globals().update(_TYPES)
 
 
+class _Printer(threading.local):
+    """Prints JSON. Making a callback costs more than all else, so each thread keeps one."""
+
+    def __init__(self):
+        self.pieces = []
+        self.sink = _library.Sink(self.take)
+
+    def take(self, context, text, size):
+        self.pieces.append(ctypes.string_at(text, size))
+
+    def json_of(self, data, judgement):
+        self.pieces.clear()
+        _library.print_bytes(data, len(data), judgement, _library.JSON_FORMAT, 0, self.sink, None)
+        return b"".join(self.pieces).decode()
+
+
+_printer = _Printer()
+_parse = json.JSONDecoder().decode
+
+
 def decode(data):
     """The message that the bytes hold; raises Refused, which says where and why they are none."""
     data = bytes(data)
     judgement = _library.judge(data, len(data))
     if judgement.verdict == _library.REFUSED:
         _raise(_library.explain_bytes(data, len(data)), True)
-    pieces = []
-    sink = _library.Sink(lambda context, text, size: pieces.append(ctypes.string_at(text, size)))
-    _library.print_bytes(data, len(data), judgement, _library.JSON_FORMAT, 0, sink, None)
-    message = _from_json(json.loads(b"".join(pieces)))
+    message = _from_json(_parse(_printer.json_of(data, judgement)))
     if judgement.isPlain:
         message._bytes = data
     return message
