@@ -161,6 +161,19 @@ TEST(Cpp, RepeatedChildrenAreWalkedInOrder) {
     EXPECT_TRUE(release->extract_AcUeId());
 }
 
+TEST(Cpp, ErrorsSayWhereAndWhy) {
+    auto bytes = *tarn::build(release_of(7));
+    bytes.pop_back();
+    const auto cut = tarn::get<tarn::UeContextRelease>(bytes);
+    EXPECT_EQ(cut.error().offset(), 29U);
+    EXPECT_EQ(std::string_view(cut.error().what()).substr(0, 14), "ReleaseCause: ");
+    tarn::IapReset record; // without the reference that this reset calls for
+    const auto built = tarn::build(record);
+    ASSERT_FALSE(built);
+    EXPECT_EQ(std::string_view(built.error().what()),
+              "UeContextRef: missing: it is required where Reset3GAP is anything but 1");
+}
+
 TEST(Cpp, AVisitorMayLeaveTheRestToOther) {
     const auto bytes = tarn::build(release_of(7));
     std::string seen;
