@@ -1,3 +1,6 @@
+#include <map>
+#include <nlohmann/json.hpp>
+#include <set>
 #include <sstream>
 
 #include "support/library_test.h"
@@ -11,10 +14,10 @@ struct Outcome {
     std::string err;
 };
 
-Outcome describe(const std::string &name) {
+Outcome describe(const std::vector<std::string> &names, bool json = false) {
     std::ostringstream out;
     std::ostringstream err;
-    const int status = tool::describe(name, {out, err});
+    const int status = tool::describe(names, json, {out, err});
     return {status, out.str(), err.str()};
 }
 
@@ -34,22 +37,22 @@ bool has_line(const std::string &text, const std::string &words) {
 
 TEST(Describe, TellsWhatIsInIt) {
     const struct {
-        const char *name;
+        std::vector<std::string> names;
         std::vector<const char *> lines;
     } cases[] = {
-        {"",
+        {{},
          {"Messages (id, name), 38:", "4 UeContextRelease Releases a UE context",
           "Composite IEs, 20:", "Primitive IEs: byte strings, 16:",
           "Imsi [169] Subscriber identity (IMSI), 16 opaque bytes"}},
-        {"4",
+        {{"4"},
          {"UeContextRelease, message id 4", "0 MessageId [72] 1 byte, any value mandatory",
           "3 ReleaseCause [5] 2 bytes, any value mandatory",
           "4 RabDataInfoList [102] 1 to 3 elements of RabDataInfo [103] optional"}},
-        {"iapreset",
+        {{"iapreset"},
          {"IapReset, message id 18",
           "3 UeContextRef [95] 3 slots required, once or more, where Reset3GAP is anything but 1, "
           "else not allowed"}},
-        {"RabParams",
+        {{"RabParams"},
          {"RabParams [26], composite, a sequence of slots: 13 slots",
           "0 TrafficClass [27] 2 bytes, any value mandatory",
           "9 SecondBitRates [30] 0 to 2 items of BitRate [31] required where TrafficClass is 0 or "
@@ -58,21 +61,31 @@ TEST(Describe, TellsWhatIsInIt) {
           "12 TrafficHandlingPriority [49] 1 byte, any value required where TrafficClass is 3 "
           "(interactive), else not allowed",
           "RabToSetUpInfo [22]"}},
-        {"tag:172", {"GtpEchoPeriod [172], number: 2 bytes, 60 to 600", "PsIuhGatewayInfo [173]"}},
-        {"LAI",
+        {{"tag:172"},
+         {"GtpEchoPeriod [172], number: 2 bytes, 60 to 600", "PsIuhGatewayInfo [173]"}},
+        {{"LAI"},
          {"LAI [107], record: 2 members", "PLMNId [108] exactly 3 bytes", "TargetRNCId [106]"}},
-        {"RabId",
+        {{"RabId"},
          {"RabId [23], number: 1 byte, any value", "RabIdList [167]", "RabReleaseInfo [67]",
           "RabDataInfo [103]"}},
-        {"Imsi", {"AccessControlRequest (message 38)", "InitDirectTransfer (message 5)"}},
-        {"ReleaseCause",
+        {{"Imsi"}, {"AccessControlRequest (message 38)", "InitDirectTransfer (message 5)"}},
+        {{"ReleaseCause"},
          {"A code word: 32 bits in memory, of which the low 16 travel.",
           "UeContextRelease (message 4)"}},
-        {"TransactionId", {"Nothing holds it.", "No IE of its own."}},
+        {{"TransactionId"}, {"Nothing holds it.", "No IE of its own."}},
+        {{"0xac"}, {"GtpEchoPeriod [172], number: 2 bytes, 60 to 600"}},
+        {{"0x7A0D00B2", "0xB4D9287C"},
+         {"0x7A0D00B2, debug token of RabAssignmentRequest",
+          "0xB4D9287C, debug token of every message", "Get: the bytes cannot be decoded."}},
+        {{"tarn_if_conditional_funcs"},
+         {"Reports of null pointers by the predicates of conditional presence."}},
+        {{"*detect", "gsm*[23]"},
+         {"HandoverDetect, message id 30", "GsmClassmark2 [114], byte string: 0 to 5 bytes",
+          "GsmClassmark3 [115], byte string: 1 to 32 bytes"}},
     };
-    for (const auto &[name, lines] : cases) {
-        const Outcome run = describe(name);
-        EXPECT_EQ(run.status, 0) << name;
+    for (const auto &[names, lines] : cases) {
+        const Outcome run = describe(names);
+        EXPECT_EQ(run.err, "") << run.out;
         for (const char *line : lines)
             EXPECT_TRUE(has_line(run.out, line)) << line << "\nnot in\n" << run.out;
     }
@@ -91,11 +104,42 @@ TEST(Describe, SuggestsNearNames) {
         {"qqqqqqqq", "tarn: no message or IE 'qqqqqqqq'\n"},
     };
     for (const auto &[name, error] : cases) {
-        const Outcome run = describe(name);
+        const Outcome run = describe({name});
         EXPECT_EQ(run.status, 2) << name;
         EXPECT_EQ(run.out, "") << name;
         EXPECT_EQ(run.err, error);
     }
+}
+
+// Whoever generates from the document finds each name that it refers to.
+TEST(Describe, WritesOneDocumentThatRefersToItself) {
+    const auto document = nlohmann::json::parse(describe({}, true).out);
+    std::map<std::string, nlohmann::json> types;
+    std::set<std::string> conditions;
+    for (const auto &type : document["types"])
+        types[type["name"]] = type;
+    for (const auto &condition : document["conditions"])
+        conditions.insert(condition["name"]);
+    EXPECT_EQ(document["messages"].size(), 38U);
+    std::size_t slots = 0;
+    for (const char *owners : {"messages", "types"})
+        for (const auto &owner : document[owners]) {
+            if (owner.contains("item")) {
+                EXPECT_EQ(types.count(owner["item"]), 1U) << owner;
+            }
+            for (const auto &slot : owner.value("slots", nlohmann::json::array())) {
+                ++slots;
+                EXPECT_EQ(types[slot["type"]].value("tag", 0), slot.value("tag", 0)) << slot;
+                EXPECT_EQ(slot.contains("condition"),
+                          slot["presence"] == "conditional" || slot["presence"] == "repeated");
+                EXPECT_TRUE(!slot.contains("condition") ||
+                            conditions.count(slot["condition"]) == 1);
+            }
+        }
+    EXPECT_GT(slots, 250U);
+    const auto some = nlohmann::json::parse(describe({"Reset", "RabId*"}, true).out);
+    EXPECT_EQ(some["messages"].size(), 1U);
+    EXPECT_EQ(some["types"].size(), 2U);
 }
 
 } // namespace

@@ -75,8 +75,8 @@ int stats(const StatsOptions &options, const Streams &streams);
 // Tells the messages of two files apart: the first of one with the first of the other, and so on.
 int diff(const std::vector<std::string> &files, const InputOptions &input, const Streams &streams);
 int encode(const EncodeOptions &options, const Streams &streams);
-// An empty name asks for the overview.
-int describe(const std::string &name, const Streams &streams);
+// No name asks for the overview, or as JSON for everything.
+int describe(const std::vector<std::string> &names, bool json, const Streams &streams);
 // The columns of the JSON lines for "duckdb" or "spark".
 int describe_schema(const std::string &engine, const Streams &streams);
 

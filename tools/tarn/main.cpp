@@ -266,7 +266,7 @@ int dispatch(const CLI::App &app, const CommandLine &line) {
         return help(app, line.helpOn);
     if (!line.schema.empty())
         return tool::describe_schema(line.schema, streams);
-    return tool::describe(line.names.empty() ? "" : line.names.front(), streams);
+    return tool::describe(line.names, line.describesAsJson, streams);
 }
 
 int run(int argc, char **argv) {
