@@ -1,4 +1,5 @@
-# Runs PROGRAMS as a pipeline and compares what it prints with the file EXPECTED.
+# Runs PROGRAMS as a pipeline and compares what it prints with the file EXPECTED, and what it writes
+# to stderr with COMPLAINTS.
 set(commands "")
 foreach(program IN LISTS PROGRAMS)
     list(APPEND commands COMMAND ${EMULATOR} ${program})
@@ -10,7 +11,7 @@ foreach(status IN LISTS statuses)
         message(FATAL_ERROR "${PROGRAMS}: ended with ${statuses}\n${errors}${printed}")
     endif()
 endforeach()
-if(NOT errors STREQUAL "")
+if(NOT errors STREQUAL "${COMPLAINTS}")
     message(FATAL_ERROR "${PROGRAMS}: complained\n${errors}")
 endif()
 file(READ ${EXPECTED} expected)
