@@ -11,7 +11,7 @@ tests=(clang clang-format clang-tidy libclang-rt-dev googletest binutils git pyt
     g++-arm-linux-gnueabihf g++-s390x-linux-gnu qemu-user)
 bench=(libbenchmark-dev nanopb libnanopb-dev libprotobuf-c-dev protobuf-c-compiler
     protobuf-compiler libprotobuf-dev capnproto libcapnp-dev flatbuffers-compiler libflatbuffers-dev
-    valgrind python3)
+    valgrind python3 libmimalloc2.0 libjemalloc2 libtcmalloc-minimal4)
 
 case "${1:-demo}" in
 demo) wanted=("${demo[@]}") ;;

@@ -1,8 +1,9 @@
-// A host whose fatal error does not return but throws: the exception passes through the library,
-// and nothing is lost on the way.
+// A host whose reports do not return but throw: the exception passes through the library, and
+// nothing is lost on the way.
 #include <algorithm>
 #include <vector>
 
+#include "protocol/protocol.h"
 #include "support/library_test.h"
 #include "tarn_if.h"
 
@@ -62,6 +63,28 @@ TEST_F(LeavingTest, TheCallersFramesUnwind) {
     EXPECT_THROW(call(), test_host::FatalReport);
     EXPECT_TRUE(unwound);
     expect_fatals(1, "tarn_if_api");
+}
+
+// Records of zeros are wrong in values or in what has to be there, and no message is a byte long.
+TEST_F(LeavingTest, FailuresOfBuildAndGetThatThrowTheirTokenLeaveNothing) {
+    test_host::throw_tokens();
+    int values = 0;
+    int presence = 0;
+    for (const protocol::Message *type : protocol::messages()) {
+        std::vector<std::uint32_t> record(type->recordSize / 4 + 1);
+        std::vector<std::uint8_t> buffer(100000);
+        try {
+            type->build(buffer.data(), 100000, record.data());
+        } catch (const test_host::DebugToken &thrown) {
+            values += thrown.token == type->appendToken ? 1 : 0;
+            presence += thrown.token == type->validityToken ? 1 : 0;
+        }
+        EXPECT_EQ(test_host::live_blocks(), 0U) << type->name;
+        EXPECT_THROW(type->get(buffer.data(), 1, record.data()), test_host::DebugToken);
+        EXPECT_EQ(test_host::live_blocks(), 0U) << type->name;
+    }
+    EXPECT_GT(values, 0);
+    EXPECT_GT(presence, 0);
 }
 
 } // namespace

@@ -23,6 +23,7 @@ struct State {
     std::size_t unsetLinks = 0;
     std::size_t listCalls = 0;
     test_host::OnFatal onFatal = test_host::OnFatal::returns;
+    bool throwsTokens = false;
     test_host::Watch watch = nullptr;
 };
 
@@ -148,6 +149,8 @@ void velSwFatalError(const char *text, const char *module, uint32_t line) {
 
 void velSwTokenDebug(uint32_t token, uint32_t value) {
     state().debugTokens.push_back({token, value});
+    if (state().throwsTokens)
+        throw test_host::DebugToken{token, value};
 }
 
 namespace test_host {
@@ -159,10 +162,15 @@ void reset() {
     state().unsetLinks = 0;
     state().listCalls = 0;
     state().onFatal = OnFatal::returns;
+    state().throwsTokens = false;
 }
 
 void set_watch(Watch watch) {
     state().watch = watch;
+}
+
+void throw_tokens() {
+    state().throwsTokens = true;
 }
 
 void set_on_fatal(OnFatal reaction) {

@@ -32,6 +32,8 @@ enum class OnFatal {
 // Forgets all reports and counts, and lets fatal errors return.
 void reset();
 void set_on_fatal(OnFatal reaction);
+// Has debug tokens thrown, as the DebugToken, once they are noted.
+void throw_tokens();
 
 // Is told of each call for memory or lists, from now on and also after a reset; null for nobody.
 using Watch = void (*)(const char *service, const char *module);
