@@ -55,3 +55,13 @@ write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/tarnConfigVersion.c
 install(FILES ${PROJECT_SOURCE_DIR}/cmake/tarnConfig.cmake
               ${CMAKE_CURRENT_BINARY_DIR}/tarnConfigVersion.cmake
         DESTINATION ${tarn_package})
+
+install(FILES ${PROJECT_SOURCE_DIR}/man/libtarn.3 ${PROJECT_SOURCE_DIR}/man/libtarn_host.3
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man3)
+if(TARN_TOOLS)
+    install(FILES ${PROJECT_SOURCE_DIR}/man/tarn.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+    install(FILES ${PROJECT_SOURCE_DIR}/completion/tarn.bash RENAME tarn
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+    install(FILES ${PROJECT_SOURCE_DIR}/completion/_tarn
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions)
+endif()
