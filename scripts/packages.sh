@@ -33,7 +33,16 @@ done
 
 as_root=()
 [ "$(id -u)" -eq 0 ] || as_root=(sudo)
-echo "installing: ${missing[*]}"
+echo "installing from Debian, with what they depend on: ${missing[*]}"
 export DEBIAN_FRONTEND=noninteractive
 "${as_root[@]}" apt-get update -q
-"${as_root[@]}" apt-get install -q -y --no-install-recommends "${missing[@]}"
+if ! "${as_root[@]}" apt-get install -q -y --no-remove --no-install-recommends "${missing[@]}"; then
+    cat >&2 <<END
+
+Not all of them could be installed. Nothing was removed: a package that would have to make room is
+yours to decide about. To see which one it is:
+    apt-get install --simulate ${missing[*]}
+Where this machine must stay as it is, build in a container of Debian 12.
+END
+    exit 1
+fi
