@@ -1145,6 +1145,7 @@ local fields = {
   findingAt = ProtoField.uint32("tarn.finding.offset", "Byte of the message", base.DEC_HEX),
   findingPath = ProtoField.string("tarn.finding.path", "IE"),
   findingReason = ProtoField.string("tarn.finding.reason", "Reason"),
+  findingKind = ProtoField.string("tarn.finding.kind", "Kind of reason"),
   length = ProtoField.uint32("tarn.length", "Length in front", base.DEC),
   skipped = ProtoField.bytes("tarn.skipped", "Bytes that are no message"),
   requestIn = ProtoField.framenum("tarn.request_in", "Request in", base.NONE, frametype.REQUEST),
@@ -1287,7 +1288,8 @@ local function add_finding(tree, found, kind, view)
   item:add_proto_expert_info(kind, words(found))
   item:add(fields.findingAt, range, found.at)
   item:add(fields.findingPath, range, found.path)
-  item:add(fields.findingReason, range, found.reason)
+  item:add(fields.findingReason, range, found.what)
+  item:add(fields.findingKind, range, found.reason)
 end
 
 -- ---- Requests and responses --------------------------------------------------------------------
