@@ -17,6 +17,7 @@ local function link_slots(owner)
     slot.type = typesByName[slot.type]
     slot.condition = slot.condition and rows.conditions[slot.condition]
     slot.isMandatory = slot.presence == "mandatory"
+    slot.isPlainNumber = slot.type.shape == "scalar" and not slot.condition
   end
 end
 
@@ -411,9 +412,31 @@ local function go_back(walk, at, noteCount)
   end
 end
 
+-- Most IEs are numbers with nothing wrong about them: these are taken in one step. Whether a number
+-- was taken; if not, the longer way tells what is to be said of it.
+local function take_plain_number(walk, owner, slot)
+  local type, at = slot.type, walk.at
+  local size = headerSize + type.width
+  local a, b, c, d, e, f, g, h, i, j = byte(walk.bytes, at + 1, at + size)
+  if not g or b + a * 256 ~= type.tag or f ~= type.width or c + d + e > 0 then
+    return false
+  end
+  local number = j and ((g * 256 + h) * 256 + i) * 256 + j or h and g * 256 + h or g
+  if at + size > walk.length or number < type.least or number > type.greatest then
+    return false
+  end
+  owner[#owner + 1] = { parent = owner, type = type, name = slot.name, at = at, declared = f,
+    size = size, number = number }
+  walk.at = at + size
+  return true
+end
+
 -- Tries the child of one slot at the current position and moves behind it if it is taken. Returns
 -- why the owner is refused, if it is.
 local function read_slot(walk, owner, row, slot)
+  if slot.isPlainNumber and take_plain_number(walk, owner, slot) then
+    return nil
+  end
   if not slot.isMandatory and not slot.condition and tag_at(walk) ~= slot.type.tag then
     return nil
   end

@@ -525,6 +525,7 @@ local function link_slots(owner)
     slot.type = typesByName[slot.type]
     slot.condition = slot.condition and rows.conditions[slot.condition]
     slot.isMandatory = slot.presence == "mandatory"
+    slot.isPlainNumber = slot.type.shape == "scalar" and not slot.condition
   end
 end
 
@@ -919,9 +920,31 @@ local function go_back(walk, at, noteCount)
   end
 end
 
+-- Most IEs are numbers with nothing wrong about them: these are taken in one step. Whether a number
+-- was taken; if not, the longer way tells what is to be said of it.
+local function take_plain_number(walk, owner, slot)
+  local type, at = slot.type, walk.at
+  local size = headerSize + type.width
+  local a, b, c, d, e, f, g, h, i, j = byte(walk.bytes, at + 1, at + size)
+  if not g or b + a * 256 ~= type.tag or f ~= type.width or c + d + e > 0 then
+    return false
+  end
+  local number = j and ((g * 256 + h) * 256 + i) * 256 + j or h and g * 256 + h or g
+  if at + size > walk.length or number < type.least or number > type.greatest then
+    return false
+  end
+  owner[#owner + 1] = { parent = owner, type = type, name = slot.name, at = at, declared = f,
+    size = size, number = number }
+  walk.at = at + size
+  return true
+end
+
 -- Tries the child of one slot at the current position and moves behind it if it is taken. Returns
 -- why the owner is refused, if it is.
 local function read_slot(walk, owner, row, slot)
+  if slot.isPlainNumber and take_plain_number(walk, owner, slot) then
+    return nil
+  end
   if not slot.isMandatory and not slot.condition and tag_at(walk) ~= slot.type.tag then
     return nil
   end
@@ -1213,6 +1236,7 @@ tarn.experts = allExperts
 
 local lengthSize = 4 -- of what stands in front of a message in a stream
 
+local dissectsNas = true -- as the preference says, which takes a search to ask
 local nasType = typesByName.NasMsg
 local nasDissector = Dissector.get("gsm_a_dtap")
 
@@ -1246,7 +1270,7 @@ local function add_bytes(tree, node, view, pinfo)
   end
   local value = range_of(view, at, node.count)
   local item = tree:add(fieldOf[type], value)
-  if type == nasType and tarn.prefs.nas then
+  if type == nasType and dissectsNas then
     dissect_nas(value, pinfo, item)
   end
 end
@@ -1358,22 +1382,27 @@ local links = {}
 
 -- Two messages of one packet begin at different bytes.
 local function place_of(view, pinfo)
-  return pinfo.number .. ":" .. view.tvb:offset() + view.start
+  return pinfo.number * 2 ^ 20 + view.tvb:offset() + view.start
 end
 
--- Both ends, in the same order whichever of them sends.
+-- Both ends, the same whichever of them sends.
 local function ends_of(pinfo)
-  local from = tostring(pinfo.src) .. ":" .. pinfo.src_port
-  local to = tostring(pinfo.dst) .. ":" .. pinfo.dst_port
-  return from < to and from .. " " .. to or to .. " " .. from
+  local from, to = tostring(pinfo.src), tostring(pinfo.dst)
+  local port, otherPort = pinfo.src_port, pinfo.dst_port
+  if from > to then
+    from, to = to, from
+  end
+  return from .. " " .. to .. " " .. math.min(port, otherPort) * 65536 + math.max(port, otherPort)
 end
 
--- The ends, and the numbers that the pair goes by.
-local function pair_key(pair, root, ends)
+-- The ends, and the numbers that the pair goes by, as they stand in the message.
+local function pair_key(pair, result, view, ends)
   local key = ends
   for _, type in ipairs(pair.types) do
-    for _, child in ipairs(root) do
-      key = child.type == type and key .. " " .. child.number or key
+    for _, child in ipairs(result.root) do
+      if child.type == type then
+        key = key .. view.bytes:sub(child.at + 1, child.at + child.size)
+      end
     end
   end
   return key
@@ -1393,7 +1422,7 @@ end
 local function link_message(result, view, pinfo)
   local place, ends = place_of(view, pinfo), ends_of(pinfo)
   for _, pair in ipairs(asResponse[result.message] or {}) do
-    local link = take_request(pair, pair_key(pair, result.root, ends))
+    local link = take_request(pair, pair_key(pair, result, view, ends))
     if link then
       link.response, link.seconds = pinfo.number, pinfo.rel_ts - link.seconds
       links[place] = { asResponse = link }
@@ -1404,7 +1433,7 @@ local function link_message(result, view, pinfo)
     links[place] = links[place] or {}
     local link = links[place].asRequest or { request = pinfo.number, seconds = pinfo.rel_ts }
     links[place].asRequest = link
-    local key = pair_key(pair, result.root, ends)
+    local key = pair_key(pair, result, view, ends)
     pair.waiting[key] = pair.waiting[key] or {}
     table.insert(pair.waiting[key], link)
   end
@@ -1476,7 +1505,7 @@ local function add_findings(item, result, view)
 end
 
 local function holds_nas(result)
-  for _, child in ipairs(tarn.prefs.nas and result.root or {}) do
+  for _, child in ipairs(dissectsNas and result.root or {}) do
     if child.type == nasType then
       return true
     end
@@ -1499,27 +1528,26 @@ local function add_message(tree, result, view, pinfo, text)
   add_findings(item, result, view)
 end
 
+-- Returns the info column, for a fence to be put behind all that belongs to the message.
 local function show_in_columns(text, pinfo)
-  pinfo.cols.protocol = "TARN"
-  pinfo.cols.info:set(text .. "  ")
-end
-
--- Keeps what stands in the info column where the packet holds another message.
-local function keep_columns(pinfo)
-  pinfo.cols.info:fence()
+  local columns = pinfo.cols
+  local info = columns.info
+  columns.protocol = "TARN"
+  info:set(text .. "  ")
+  return info
 end
 
 -- `isFramed` tells that the message's length stands in front of it.
-local function dissect_message(tvb, start, size, pinfo, tree, isFramed)
-  local view = { tvb = tvb, start = start, bytes = tvb:raw(start, size), isFramed = isFramed }
+local function dissect_message(tvb, start, bytes, pinfo, tree, isFramed)
+  local view = { tvb = tvb, start = start, bytes = bytes, isFramed = isFramed }
   local result = read_message(view.bytes)
   local text = summary(result)
-  show_in_columns(text, pinfo)
+  local info = show_in_columns(text, pinfo)
   if isPaired[result.message] and not pinfo.visited and result.verdict ~= "refused" then
     link_message(result, view, pinfo)
   end
   add_message(tree, result, view, pinfo, text)
-  keep_columns(pinfo)
+  info:fence()
   return result
 end
 
@@ -1553,8 +1581,7 @@ local function skip(tvb, at, size, pinfo, tree)
   local item = tree:add(tarn, tvb(at, size), "Tarn Signalling: no message")
   local text = counted(size, "byte") .. " that " .. (size == 1 and "is" or "are") .. " no message"
   item:add(fields.skipped, tvb(at, size)):add_proto_expert_info(experts.skipped, text)
-  show_in_columns("[" .. text .. "]", pinfo)
-  keep_columns(pinfo)
+  show_in_columns("[" .. text .. "]", pinfo):fence()
 end
 
 -- Asks for more of the stream. Returns false if there is no more to be had.
@@ -1579,8 +1606,9 @@ local function dissect_frame(tvb, bytes, at, pinfo, tree)
     return #bytes
   end
   size = math.min(size, left - lengthSize)
-  dissect_message(tvb, at + lengthSize, size, pinfo, tree, true)
-  return at + lengthSize + size
+  local start = at + lengthSize
+  dissect_message(tvb, start, bytes:sub(start + 1, start + size), pinfo, tree, true)
+  return start + size
 end
 
 -- A sender may write length and message one after the other, so that a segment begins with the
@@ -1590,12 +1618,12 @@ local function dissect_unframed(tvb, bytes, pinfo, tree)
   if size == 0 or not frame_at(bytes, size) then
     size = #bytes
   end
-  dissect_message(tvb, 0, size, pinfo, tree)
+  dissect_message(tvb, 0, bytes:sub(1, size), pinfo, tree)
   return size
 end
 
-local function dissect_stream(tvb, pinfo, tree)
-  local bytes, at = tvb:raw(), 0
+local function dissect_stream(tvb, bytes, pinfo, tree)
+  local at = 0
   if begins_with_message(bytes, 0) then
     at = dissect_unframed(tvb, bytes, pinfo, tree)
   end
@@ -1619,32 +1647,33 @@ function tarn.dissector(tvb, pinfo, tree)
   if #bytes == 0 then
     return 0
   elseif pinfo.can_desegment > 0 or (#bytes > lengthSize and frame_at(bytes, 0)) then
-    return dissect_stream(tvb, pinfo, tree)
+    return dissect_stream(tvb, bytes, pinfo, tree)
   end
-  dissect_message(tvb, 0, #bytes, pinfo, tree)
+  dissect_message(tvb, 0, bytes, pinfo, tree)
   return #bytes
 end
 
 ownDissector = Dissector.get("tarn")
 
 local function find_datagram(tvb, pinfo, tree)
-  if not begins_with_message(tvb:raw(0, math.min(tvb:len(), #magic)), 0) then
-    return false
+  local bytes = tvb:raw()
+  local isFound = begins_with_message(bytes, 0)
+  if isFound then
+    dissect_message(tvb, 0, bytes, pinfo, tree)
   end
-  dissect_message(tvb, 0, tvb:len(), pinfo, tree)
-  return true
+  return isFound
 end
 
 -- Calls the function and not the dissector: Wireshark would let that one no longer desegment.
 local function find_stream(tvb, pinfo, tree)
-  local first = tvb:raw(0, math.min(tvb:len(), lengthSize + #magic))
-  local isFrame = #first == lengthSize + #magic and frame_at(first, 0)
-  if not isFrame and not begins_with_message(first, 0) then
-    return false
+  local bytes = tvb:raw()
+  local isFrame = #bytes >= lengthSize + #magic and frame_at(bytes, 0)
+  local isFound = isFrame or begins_with_message(bytes, 0)
+  if isFound then
+    pinfo.conversation = tarn
+    dissect_stream(tvb, bytes, pinfo, tree)
   end
-  pinfo.conversation = tarn
-  dissect_stream(tvb, pinfo, tree)
-  return true
+  return isFound
 end
 
 tarn:register_heuristic("udp", find_datagram)
@@ -1682,6 +1711,7 @@ local function register(ports, types, verb)
 end
 
 local function apply_preferences()
+  dissectsNas = tarn.prefs.nas
   register(registered.ports, registered.linkTypes, "remove")
   registered = { ports = tarn.prefs.ports, linkTypes = tarn.prefs.link_types }
   register(registered.ports, registered.linkTypes, "add")
