@@ -373,7 +373,7 @@ local function read_child(walk, node)
 end
 
 local function leave_out(walk, slot, fault)
-  walk.leftOut[#walk.leftOut + 1] = { at = walk.at, name = slot.name, why = fault }
+  walk.leftOut[#walk.leftOut + 1] = { at = walk.at, slot = slot, why = fault }
 end
 
 -- Whether a child that is not taken refuses its owner, and why.
@@ -519,7 +519,7 @@ local function add_left_out(walk, stop, findings)
   for i = #walk.leftOut, 1, -1 do
     local left = walk.leftOut[i]
     if left.at == stop then
-      left.why.what = left.why.what .. ", so " .. left.name .. " was left out"
+      left.why.what = left.why.what .. sentence("LeftOut", left.slot, {})
       findings[#findings + 1] = left.why
       stop = left.why.at
     end
@@ -605,9 +605,20 @@ end
 
 local forms = {}
 
--- ASCII digits with zeros behind them, or one digit in each half byte up to a half byte of 15.
+-- One digit in each half byte, up to a last one of 15, or a byte of two; behind it stand only bytes
+-- of 255, or of 0.
+local function packed_digits(bytes)
+  local digits, rest = half_bytes(bytes):match("^(%d*)(.*)$")
+  local filler = #digits % 2 == 1 and "^f" or "^ff"
+  if rest == "" or rest:find(filler .. "f*$") or rest:find(filler .. "0*$") then
+    return digits
+  end
+end
+
+-- Up to 15 digits, as ASCII with zeros behind them or as half bytes.
 function forms.Digits(bytes)
-  return bytes:match("^(%d+)%z*$") or half_bytes(bytes):match("^(%d+)f*$")
+  local digits = bytes:match("^(%d+)%z*$") or packed_digits(bytes)
+  return digits and #digits > 0 and #digits <= 15 and digits or nil
 end
 
 -- Half bytes: three digits of the MCC, the third of the MNC or 15, the first and second of the MNC.

@@ -130,9 +130,6 @@ end
 
 -- ---- Both answers ------------------------------------------------------------------------------
 
--- As `tarn decode` words it.
-local toolVerdict = { valid = "valid", invalid = "not valid", refused = "not decodable" }
-
 local reasons = {} -- how often each was found
 local function answer(bytes)
   local result = engine.read_message(bytes)
@@ -157,15 +154,12 @@ local function answers_of_tool(path)
     for line in pipe:lines() do
       local name, verdict = line:match("^message %d+ %([^)]*%): (.-),? %d+ bytes?, (.*)$")
       if name then
-        for word, text in pairs(toolVerdict) do
-          verdict = verdict == text and word or verdict
-        end
         lines = { name:gsub(" %(id %d+%)", "") .. ", " .. verdict }
       elseif line == "" then
         return table.concat(lines, "\n")
       else
-        local found = line:match("^  not %w+: (byte .*)") or line:match("^    (byte .*: .*)")
-        lines[#lines + 1] = found or line:match("^  (note: .*)")
+        local found = line:match("^  %a+: (byte .*)") or line:match("^    (byte .*: .*)")
+        lines[#lines + 1] = line:match("^  (note: .*)") or found
       end
     end
   end
