@@ -117,12 +117,12 @@ local function add_bytes(tree, node, view, pinfo)
   if type.form then
     local bytes = view.bytes:sub(at + 1, at + node.count)
     return tree:add(fieldOf[type], range_of(view, node.at, node.size), readable(type, bytes))
-  elseif node.count == 0 then
-    return tree:add(fieldOf[type], range_of(view, node.at, node.size), "")
   end
   local value = range_of(view, at, node.count)
   local item = tree:add(fieldOf[type], value)
-  if type == nasType and dissectsNas then
+  if node.count == 0 then
+    item:set_text(type.name .. ": 0 bytes")
+  elseif type == nasType and dissectsNas then
     dissect_nas(value, pinfo, item)
   end
 end
@@ -449,8 +449,11 @@ end
 -- wait for more.
 local function dissect_frame(tvb, bytes, at, pinfo, tree)
   local left = #bytes - at
-  local size = left >= lengthSize and select(2, frame_at(bytes, at))
-  local missing = size and lengthSize + size - left or DESEGMENT_ONE_MORE_SEGMENT
+  local _, size = frame_at(bytes, at)
+  local missing = lengthSize + size - left
+  if left < lengthSize + math.min(size, #magic) then
+    missing = DESEGMENT_ONE_MORE_SEGMENT -- any bytes look like a length: do not wait for so many
+  end
   if missing > 0 and wait_for(missing, at, pinfo) then
     return nil
   elseif left <= lengthSize then

@@ -91,12 +91,14 @@ def messages_of_tool(path):
 
 def compare(name, path, *options):
     ours, theirs = messages_of_tshark(path, options), messages_of_tool(path)
+    if name.endswith("lost"):  # the tool waits longer for what may yet come, so in other packets
+        ours, theirs = [m[1:] for m in ours], [m[1:] for m in theirs]
     for mine, other in zip(ours, theirs):
         if mine != other:
             raise AssertionError(f"{name}:\n  tshark {mine}\n  tarn   {other}")
     if len(ours) != len(theirs) or not ours:
         raise AssertionError(f"{name}: tshark shows {len(ours)} messages, tarn {len(theirs)}")
-    refused = sum(message[2] == "refused" for message in ours)
+    refused = sum("refused" in message for message in ours)
     print(f"{name}: {len(ours)} messages alike, {refused} of them refused")
 
 
@@ -123,6 +125,8 @@ def cases(samples):
         stream, [1, 2, 3, 5, 8, 13, 300, 700]), ON_PORT
     yield "TCP, lengths sent apart", LINK_ETHERNET, apart, ON_PORT
     yield "TCP, out of order", LINK_ETHERNET, shuffled(segments, 3), ON_PORT + IN_ORDER
+    yield "TCP, segments lost", LINK_ETHERNET, [
+        segment for number, segment in enumerate(segments) if number % 20 != 10], ON_PORT
 
 
 def capture_exchange(path):
