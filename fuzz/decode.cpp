@@ -2,6 +2,9 @@
 // judged, packed again, taken apart and put together again, and decoded once more; and all of it is
 // held against a second reading of the protocol's rules.
 #include "support/model.h"
+#if __has_include("tarn_info.h") // not built for every processor
+#include "tarn_info.h"
+#endif
 #include "walks.h"
 
 namespace {
@@ -73,6 +76,26 @@ std::optional<samples::Nodes> expected(const Block &input) {
     return model::unpack_msg(*type, {input.data(), input.size()});
 }
 
+// libtarn_info comes to the same end, and prints what there is.
+void check_explanation(const Block &input, const TarnMsg *msg) {
+#ifdef TARN_INFO_H
+    const TarnInfoExplanation *why = tarnInfoExplainBytes(input.data(), input.size());
+    HOLDS((why->verdict != TarnInfoRefused) == (msg != nullptr));
+    HOLDS((why->verdict == TarnInfoValid) == (why->faultCount == 0));
+    HOLDS(msg == nullptr || (why->verdict == TarnInfoValid) == (tarnInfoIsMsgValid(msg) != 0));
+    HOLDS(msg == nullptr || why->consumed == std::uint32_t(TarnSizeOfMsg(msg)));
+    HOLDS(why->consumed <= input.size());
+    tarnInfoFreeExplanation(why);
+    const auto drop = [](void *, const char *, std::uint32_t) {};
+    for (const TarnInfoFormat format : {TarnInfoTree, TarnInfoJson})
+        tarnInfoPrintBytes(input.data(), input.size(), nullptr, format, TarnInfoReadably, drop,
+                           nullptr);
+#else
+    static_cast<void>(input);
+    static_cast<void>(msg);
+#endif
+}
+
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
@@ -84,6 +107,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     check_work(size);
     const auto nodes = expected(input);
     HOLDS(nodes.has_value() == (msg != nullptr));
+    check_explanation(input, msg);
     if (msg == nullptr) {
         HOLDS(test_host::live_blocks() == 0);
         return 0;
