@@ -298,8 +298,10 @@ struct Lengths {
 template <class Heard>
 Outcome judge(const TarnInfoMessage &message, const std::uint8_t *bytes, std::uint32_t length,
               Heard *heard) {
-    return tarn::Judge<Heard>(heard).slots(tarn::catalogue.messages[message.id].slots,
-                                           tarn::Input{bytes, length});
+    tarn::Input in{bytes, length};
+    const Reason reason =
+        tarn::Judge<Heard>(heard).slots(tarn::catalogue.messages[message.id].slots, &in);
+    return {length - in.left, reason};
 }
 
 // The bytes do not begin with the id of a message: tells what is wrong with the MessageId.

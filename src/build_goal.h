@@ -19,9 +19,11 @@ inline constexpr bool builtForSpeed = false;
 #ifdef TARN_BUILT_FOR_SPEED
 #define TARN_INLINE        [[gnu::always_inline]] inline
 #define TARN_INLINE_LAMBDA __attribute__((always_inline))
+#define TARN_SHARED        TARN_INLINE
 #else
 #define TARN_INLINE inline
 #define TARN_INLINE_LAMBDA
+#define TARN_SHARED [[gnu::noinline]]
 #endif
 
 } // namespace tarn

@@ -77,14 +77,6 @@ constexpr bool range_holds(const Type &type) {
     }
 }
 
-constexpr bool list_values_fit() {
-    for (const Type &type : catalogue.types)
-        if (type.kind == Kind::list && type.valueSize > listValueLimit)
-            return false;
-    return true;
-}
-static_assert(list_values_fit());
-
 constexpr bool ranges_hold() {
     for (const Type &type : catalogue.types)
         if (type.least > type.greatest || !range_holds(type))
@@ -116,6 +108,58 @@ constexpr bool all_slots_hold() {
     return true;
 }
 static_assert(all_slots_hold());
+
+// Filling asks tags alone where an owner's children stand, once they are judged: what was left out
+// must lie behind all that was taken. So no slot may try again what an earlier one left out.
+constexpr bool none_is_tried_again(const SlotTable &table) {
+    for (unsigned i = 0; i < table.count; ++i)
+        for (unsigned k = i + 1; k < table.count; ++k)
+            if (catalogue.slots[table.first + i].presence != Presence::mandatory &&
+                catalogue.slots[table.first + i].type == catalogue.slots[table.first + k].type)
+                return false;
+    return true;
+}
+
+// The IE that a condition looks at is a mandatory code word with numbers alone before it: so it is
+// there when the condition is asked, and found by the lengths of what stands before it.
+constexpr bool conditions_hold(const SlotTable &table) {
+    for (unsigned i = 0; i < table.count; ++i) {
+        const Slot &slot = catalogue.slots[table.first + i];
+        if (!is_conditional(slot))
+            continue;
+        if (slot.condition == always || slot.rule == UnpackRule::none)
+            return false;
+        unsigned k = 0;
+        while (k < table.mandatory &&
+               catalogue.slots[table.first + k].type != catalogue.conditions[slot.condition].type)
+            if (!is_number(catalogue.slots[table.first + k++].kind))
+                return false;
+        if (k == table.mandatory)
+            return false;
+    }
+    return true;
+}
+
+constexpr bool all_tables_hold() {
+    for (const Type &type : catalogue.types)
+        if (type.kind == Kind::sequence &&
+            !(none_is_tried_again(type.slots) && conditions_hold(type.slots)))
+            return false;
+    for (const Message &message : catalogue.messages)
+        if (!none_is_tried_again(message.slots) || !conditions_hold(message.slots))
+            return false;
+    return true;
+}
+static_assert(all_tables_hold());
+static_assert(always <= 8, "Conditions keeps a bit for each");
+
+constexpr bool conditions_ask_code_words() {
+    for (const Condition &condition : catalogue.conditions)
+        if (catalogue.types[condition.type].kind != Kind::code)
+            return false;
+    return true;
+}
+static_assert(conditions_ask_code_words());
 
 constexpr bool messages_hold() {
     unsigned count = 0;

@@ -234,9 +234,9 @@ enum Counts : bool { outside = false, inside = true };
 
 constexpr void add_conditions(Catalogue &c) {
 #define CONDITION_FOR_MSG(name_, predicate_, ie_, values_, counts_, meaning_)                      \
-    c.conditions[name_] = Condition{type##ie_, uint8_t(values_), counts_};
+    c.conditions[name_] = Condition{type##ie_, values_, counts_};
 #define CONDITION_FOR_IE(name_, predicate_, ie_, values_, counts_, meaning_)                       \
-    c.conditions[name_] = Condition{type##ie_, uint8_t(values_), counts_};
+    c.conditions[name_] = Condition{type##ie_, values_, counts_};
 #include "catalogue/conditions.def"
 }
 
@@ -272,6 +272,47 @@ inline constexpr const Type &type_of(TypeId id) {
 // A tag from the wire or from an object as a type; a tag that the protocol lacks has kind none.
 inline constexpr TypeId type_of_tag(uint32_t tag) {
     return tag <= lastTag ? TypeId(tag) : TypeId(0);
+}
+
+// ---- Rows in use -------------------------------------------------------------------------------
+
+inline constexpr const SlotTable &slots_of(MessageNumber id) {
+    return catalogue.messages[id].slots;
+}
+inline constexpr const SlotTable &slots_of(TypeId sequence) {
+    return type_of(sequence).slots;
+}
+
+inline constexpr const SlotTable &slots_of(const SlotTable &table) {
+    return table;
+}
+
+inline const Slot *slots_begin(const SlotTable &table) {
+    return catalogue.slots + table.first;
+}
+inline const Slot *slots_end(const SlotTable &table) {
+    return slots_begin(table) + table.count;
+}
+
+template <class AnySlot>
+inline constexpr bool is_conditional(const AnySlot &slot) {
+    return slot.presence >= Presence::conditional;
+}
+
+// What stands at a row's offset in a value or record.
+inline const void *at_offset(const void *owner, uint32_t offset) {
+    return static_cast<const uint8_t *>(owner) + offset;
+}
+inline void *at_offset(void *owner, uint32_t offset) {
+    return static_cast<uint8_t *>(owner) + offset;
+}
+
+// An element of a list's array, in its value or record.
+inline const void *item_of(const Type &list, const void *owner, uint32_t index) {
+    return at_offset(owner, list.array.offset + index * list.array.stride);
+}
+inline void *item_of(const Type &list, void *owner, uint32_t index) {
+    return at_offset(owner, list.array.offset + index * list.array.stride);
 }
 
 // Whether an IE of this tag has children. A tag that the protocol lacks has none.

@@ -71,6 +71,10 @@ inline constexpr bool is_composite(Kind kind) {
     return !is_primitive(kind);
 }
 
+inline constexpr bool is_list(Kind kind) {
+    return kind == Kind::list;
+}
+
 inline constexpr bool is_sequence(Kind kind) {
     return kind == Kind::sequence;
 }
@@ -159,9 +163,6 @@ struct Condition {
 
 inline constexpr unsigned slotCapacity = 265;
 inline constexpr unsigned memberCapacity = 35;
-
-// No list value is larger than this, so that an unpack can keep its former content beside it.
-inline constexpr unsigned listValueLimit = 32;
 
 struct Catalogue {
     Type types[typeCount];

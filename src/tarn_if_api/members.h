@@ -5,7 +5,7 @@
 #ifndef TARN_MEMBERS_H
 #define TARN_MEMBERS_H
 
-#include "tarn_if_api/objects.h"
+#include "objects.h"
 #include "tarn_if_internal_funcs/constants.h"
 #include "tarn_if_internal_funcs/values.h"
 

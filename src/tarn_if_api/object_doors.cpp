@@ -1,7 +1,7 @@
 // The exported operations on IE and message objects of any type.
+#include "objects.h"
 #include "tarn_if.h"
 #include "tarn_if_api/messages.h"
-#include "tarn_if_api/objects.h"
 
 using namespace tarn;
 

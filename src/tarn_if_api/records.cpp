@@ -1,234 +1,311 @@
 #include "tarn_if_api/records.h"
 
-#include "tarn_if_api/members.h"
-#include "tarn_if_api/messages.h"
-#include "tarn_if_internal_funcs/packing.h"
+#include "tarn_if_conditional_funcs/conditions.h"
+#include "tarn_if_internal_funcs/filling.h"
+#include "tarn_if_internal_funcs/judging.h"
+#include "tarn_if_internal_funcs/plain.h"
 #include "tarn_if_internal_funcs/slots.h"
 #include "tarn_if_internal_funcs/unpacking.h"
-#include "tarn_if_internal_funcs/validity.h"
-#include "tarn_if_internal_funcs/values.h"
+#include "tarn_if_internal_funcs/writing.h"
 
 namespace tarn {
 
 namespace {
-
-// Every Get reports this one token.
-constexpr uint32_t getToken = 0xB4D9287C;
 
 // A message record begins with the message id and the presence mask, a sequence composite's with
 // the mask, a list composite's with the count.
 constexpr unsigned msgMaskOffset = 1;
 constexpr unsigned sequenceMaskOffset = 0;
 
-const uint8_t *at_offset(const void *record, uint32_t offset) {
-    return static_cast<const uint8_t *>(record) + offset;
+uint8_t mask_of(const void *record, unsigned maskOffset) {
+    return *static_cast<const uint8_t *>(at_offset(record, maskOffset));
 }
 
-uint8_t *at_offset(void *record, uint32_t offset) {
-    return static_cast<uint8_t *>(record) + offset;
+// A message's slots behind its MessageId, which Build does not read from the record.
+constexpr unsigned msgSkips = builtForSpeed ? 1 : 0;
+
+template <auto id>
+constexpr Constant<id> behind_message_id(Constant<id> known) {
+    return known;
+}
+inline SlotTable behind_message_id(MessageNumber id) {
+    SlotTable table = slots_of(id);
+    ++table.first;
+    --table.count;
+    --table.mandatory;
+    return table;
 }
 
-// ---- Record to objects -------------------------------------------------------------------------
+// ---- Judging and measuring a record ------------------------------------------------------------
 
-// What became of a record. Its IEs are built in the order of their slots and none with a value out
-// of range, so conditions and the lists' least counts are all that is left to judge, and the
-// message need not be walked again by its validator.
-enum class Built : uint8_t { failed, invalid, valid };
-
-struct Builder {
-    // A list composite counts fewer elements than its least. The validators overlook that in an
-    // optional child; a record that says so is refused all the same.
-    bool shortList = false;
-
-    template <unsigned skipped, class Owner>
-    TARN_INLINE Built slots(Owner owner, const void *record, unsigned maskOffset, VelDllHead *list);
-    template <class Id>
-    Built composite(Id id, const void *record, VelDllHead *list);
-    template <class Id>
-    Built elements(Id list_id, const void *record, VelDllHead *list);
-    template <class Id>
-    Built child(Id id, const void *member, VelDllHead *list);
-};
-
-template <class Id>
-Built Builder::elements(Id list_id, const void *record, VelDllHead *list) {
-    const Type &type = type_of(list_id);
-    const uint32_t count = *static_cast<const uint16_t *>(record);
-    if (count > type.capacity)
-        return Built::failed;
-    Built verdict = Built::valid;
-    if (count < type.least) {
-        shortList = true;
-        verdict = Built::invalid;
-    }
-    for (uint32_t i = 0; i < count; ++i) {
-        const Built element =
-            composite(element_of(list_id),
-                      at_offset(record, type.array.offset + i * type.array.stride), list);
-        if (element == Built::failed)
-            return element;
-        if (element == Built::invalid)
-            verdict = element;
-    }
-    return verdict;
-}
-
-// The composite is linked before it is filled, so that a failure leaves it to its owner's release.
-template <class Id>
-Built Builder::composite(Id id, const void *record, VelDllHead *list) {
-    TarnIe *ie = create_composite(id, TARN_CALLER(moduleApi));
-    link_ie(list, ie, TARN_CALLER(moduleApi));
-    return by_kind<is_sequence>(
-        id,
-        [&](auto sequence) TARN_INLINE_LAMBDA {
-            return slots<0>(sequence, record, sequenceMaskOffset, children_of(ie));
-        },
-        [&](auto elements_of)
-            TARN_INLINE_LAMBDA { return elements(elements_of, record, children_of(ie)); });
+// Of two things that are wrong with a record the graver one counts: a value out of range keeps it
+// from being built at all; a list that counts fewer elements than its least refuses it, also below
+// an optional child; and else the validators' rules decide.
+constexpr Reason graver(Reason a, Reason b) {
+    return a > b ? a : b;
 }
 
 template <class Id>
-TARN_INLINE Built Builder::child(Id id, const void *member, VelDllHead *list) {
+[[gnu::noinline]] Outcome measure_composite(Id id, const void *record);
+
+template <class Id>
+TARN_INLINE Outcome measure_member(Id id, const void *member) {
     return by_kind<is_primitive>(
         id,
         [&](auto primitive) TARN_INLINE_LAMBDA {
-            return append_value(list, primitive, member) != 0 ? Built::valid : Built::failed;
+            const uint32_t size = measure_ie(primitive, member);
+            return Outcome{size, size != 0 ? Reason::none : Reason::outOfRange};
         },
-        [&](auto nested) TARN_INLINE_LAMBDA { return composite(nested, member, list); });
+        [&](auto composite) TARN_INLINE_LAMBDA {
+            return with_composite(composite, [&](auto known) TARN_INLINE_LAMBDA {
+                return measure_composite(known, member);
+            });
+        });
 }
 
 // As for the validators, the verdict on an optional child does not count, and a conditional child
 // counts as present only when it is valid.
 template <unsigned skipped, class Owner>
-TARN_INLINE Built Builder::slots(Owner owner, const void *record, unsigned maskOffset,
-                                 VelDllHead *list) {
-    const unsigned mask = *at_offset(record, maskOffset);
-    unsigned present = 0;
-    Built verdict = Built::valid;
+TARN_SHARED Outcome measure_slots(const Owner &owner, const void *record, unsigned maskOffset) {
+    const unsigned mask = mask_of(record, maskOffset);
+    Outcome outcome{0, Reason::none};
+    bool conditionsAreMet = true;
     const bool all = each_slot_behind<skipped>(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
-        if (slot.presence != Presence::mandatory && (mask & slot.presenceBit) == 0)
-            return true;
-        const Built built = child(slot.type, at_offset(record, slot.recordOffset), list);
-        if (built == Built::failed)
-            return false;
-        if (built == Built::valid)
-            present |= slot.presenceBit;
-        else if (slot.presence == Presence::mandatory)
-            verdict = built;
+        bool isValid = false;
+        if (slot.presence == Presence::mandatory || (mask & slot.presenceBit) != 0) {
+            const Outcome child = measure_member(slot.type, at_offset(record, slot.recordOffset));
+            if (child.reason == Reason::outOfRange)
+                return false;
+            outcome.size += child.size;
+            isValid = child.reason == Reason::none;
+            if (slot.presence == Presence::mandatory || child.reason == Reason::tooFew)
+                outcome.reason = graver(outcome.reason, child.reason);
+        }
+        if (is_conditional(slot) &&
+            condition_holds(slot.condition, NumbersInRecord{slots_of(owner), record}) != isValid)
+            conditionsAreMet = false;
         return true;
     });
     if (!all)
-        return Built::failed;
-    return conditions_are_met(slots_of(owner), list, present) ? verdict : Built::invalid;
+        return {0, Reason::outOfRange};
+    if (!conditionsAreMet)
+        outcome.reason = graver(outcome.reason, Reason::conditionUnmet);
+    return outcome;
 }
-
-// Releases the message before reporting, since a host may leave by a jump from its report.
-uint32_t fail_build(TarnMsg *msg, uint32_t token) {
-    delete_msg(msg);
-    velSwTokenDebug(token, 0);
-    return 0;
-}
-
-// ---- Objects to record -------------------------------------------------------------------------
 
 template <class Id>
-void get_member(Id id, const TarnIe *ie, void *member);
-
-// Presence bits are set and never cleared, and the members of absent IEs are left alone: a caller
-// may gather several messages into one record.
-struct RecordFiller {
-    void *record;
-    unsigned maskOffset;
-
-    template <class AnySlot>
-    TARN_INLINE bool visit(const AnySlot &slot, const TarnIe *ie) {
-        if (slot.presence != Presence::mandatory)
-            *at_offset(record, maskOffset) |= slot.presenceBit;
-        get_member(slot.type, ie, at_offset(record, slot.recordOffset));
-        return true;
+TARN_INLINE Outcome measure_elements(Id id, const void *record) {
+    const Type &type = type_of(id);
+    const uint32_t count = *static_cast<const uint16_t *>(record);
+    if (count > type.capacity)
+        return {0, Reason::outOfRange};
+    Outcome outcome{0, count < type.least ? Reason::tooFew : Reason::none};
+    for (uint32_t i = 0; i < count; ++i) {
+        const Outcome element = measure_composite(element_of(id), item_of(type, record, i));
+        if (element.reason == Reason::outOfRange)
+            return element;
+        outcome.size += element.size;
+        outcome.reason = graver(outcome.reason, element.reason);
     }
-};
-
-template <class Owner>
-TARN_INLINE void get_slots(Owner owner, const VelDllHead *list, void *record, unsigned maskOffset) {
-    RecordFiller filler{record, maskOffset};
-    visit_ies<Stray::isPassedOver>(owner, list, TARN_CALLER(moduleApi), &filler);
+    return outcome;
 }
 
 template <class Id>
-[[gnu::noinline]] void get_sequence(Id id, const VelDllHead *list, void *record) {
-    get_slots(id, list, record, sequenceMaskOffset);
-}
-
-// A decoded list holds no more elements than its record, since its unpacker counts them. They are
-// counted all the same: what is written here should not hang on a check made elsewhere.
-template <class Id>
-[[gnu::noinline]] void get_elements(Id list_id, const VelDllHead *list, void *record) {
-    const Type &type = type_of(list_id);
-    uint16_t count = 0;
-    for (const TarnIe *ie = first_ie(list, TARN_CALLER(moduleApi));
-         ie != nullptr && count < type.capacity; // GCOVR_EXCL_BR_LINE
-         ie = next_ie(list, ie, TARN_CALLER(moduleApi)))
-        get_sequence(element_of(list_id), children_of(ie),
-                     at_offset(record, type.array.offset + count++ * type.array.stride));
-    *static_cast<uint16_t *>(record) = count;
-}
-
-template <class Id>
-TARN_INLINE void get_member(Id id, const TarnIe *ie, void *member) {
-    by_kind<is_primitive>(
+Outcome measure_composite(Id id, const void *record) {
+    Outcome outcome = by_kind<is_sequence>(
         id,
-        [&](auto primitive)
-            TARN_INLINE_LAMBDA { copy_value(type_of(primitive), member, value_of(ie)); },
-        [&](auto nested) TARN_INLINE_LAMBDA {
-            with_composite(nested, [&](auto known) TARN_INLINE_LAMBDA {
-                by_kind<is_sequence>(
-                    known,
-                    [&](auto sequence)
-                        TARN_INLINE_LAMBDA { get_sequence(sequence, children_of(ie), member); },
-                    [&](auto list)
-                        TARN_INLINE_LAMBDA { get_elements(list, children_of(ie), member); });
+        [&](auto sequence) TARN_INLINE_LAMBDA {
+            return measure_slots<0>(owner_of(sequence), record, sequenceMaskOffset);
+        },
+        [&](auto list) TARN_INLINE_LAMBDA { return measure_elements(list, record); });
+    outcome.size += headerSize;
+    return outcome;
+}
+
+// ---- Writing a record that was judged good -----------------------------------------------------
+
+template <class Id>
+[[gnu::noinline]] uint8_t *put_composite(Id id, const void *record, uint8_t *at);
+
+template <class Id>
+TARN_INLINE uint8_t *put_member(Id id, const void *member, uint8_t *at) {
+    return by_kind<is_primitive>(
+        id, [&](auto primitive) TARN_INLINE_LAMBDA { return put_ie(primitive, member, at); },
+        [&](auto composite) TARN_INLINE_LAMBDA { return put_composite(composite, member, at); });
+}
+
+template <unsigned skipped, class Owner>
+TARN_SHARED uint8_t *put_slots(const Owner &owner, const void *record, unsigned maskOffset,
+                               uint8_t *at) {
+    const unsigned mask = mask_of(record, maskOffset);
+    each_slot_behind<skipped>(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
+        if (slot.presence == Presence::mandatory || (mask & slot.presenceBit) != 0)
+            at = put_member(slot.type, at_offset(record, slot.recordOffset), at);
+        return true;
+    });
+    return at;
+}
+
+template <class Id>
+TARN_INLINE uint8_t *put_elements(Id id, const void *record, uint8_t *at) {
+    const Type &type = type_of(id);
+    const uint32_t count = *static_cast<const uint16_t *>(record);
+    for (uint32_t i = 0; i < count; ++i)
+        at = put_composite(element_of(id), item_of(type, record, i), at);
+    return at;
+}
+
+template <class Id>
+uint8_t *put_composite(Id id, const void *record, uint8_t *at) {
+    uint8_t *const first = at + headerSize;
+    uint8_t *const end = by_kind<is_sequence>(
+        id,
+        [&](auto sequence) TARN_INLINE_LAMBDA {
+            return put_slots<0>(owner_of(sequence), record, sequenceMaskOffset, first);
+        },
+        [&](auto list) TARN_INLINE_LAMBDA { return put_elements(list, record, first); });
+    store_header(at, id, uint32_t(end - first));
+    return end;
+}
+
+// ---- Filling a record from bytes that were judged good -----------------------------------------
+
+template <class Id>
+[[gnu::noinline]] const uint8_t *get_composite(Id id, void *record, const uint8_t *at,
+                                               const uint8_t *end);
+
+// Stores the IE that stands here in its owner's record. Presence bits are set and never cleared,
+// and the members of absent IEs are left alone: a caller may gather several messages into one
+// record.
+template <class AnySlot>
+TARN_INLINE const uint8_t *get_member(const AnySlot &slot, void *record, unsigned maskOffset,
+                                      const uint8_t *at, const uint8_t *end) {
+    if (slot.presence != Presence::mandatory)
+        *static_cast<uint8_t *>(at_offset(record, maskOffset)) |= slot.presenceBit;
+    void *const member = at_offset(record, slot.recordOffset);
+    return by_kind<is_primitive>(
+        slot.type,
+        [&](auto primitive) TARN_INLINE_LAMBDA { return fill_value(primitive, member, at); },
+        [&](auto composite) TARN_INLINE_LAMBDA {
+            return with_composite(composite, [&](auto known) TARN_INLINE_LAMBDA {
+                return get_composite(known, member, at, end);
             });
         });
 }
 
+template <class Owner>
+TARN_SHARED const uint8_t *get_slots(const Owner &owner, void *record, unsigned maskOffset,
+                                     const uint8_t *at, const uint8_t *end) {
+    each_slot(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
+        if (slot.presence == Presence::mandatory || (at != end && load16(at) == slot.type))
+            at = get_member(slot, record, maskOffset, at, end);
+        return true;
+    });
+    return at;
+}
+
+template <class Id>
+TARN_INLINE const uint8_t *get_elements(Id id, void *record, const uint8_t *at, uint32_t length,
+                                        const uint8_t *end) {
+    const Type &type = type_of(id);
+    const uint8_t *const stop = at + length;
+    uint16_t count = 0;
+    while (at != stop)
+        at = get_composite(element_of(id), item_of(type, record, count++), at, end);
+    *static_cast<uint16_t *>(record) = count;
+    return at;
+}
+
+template <class Id>
+const uint8_t *get_composite(Id id, void *record, const uint8_t *at, const uint8_t *end) {
+    const uint32_t length = load32(at + tagSize);
+    at += headerSize;
+    return by_kind<is_sequence>(
+        id,
+        [&](auto sequence) TARN_INLINE_LAMBDA {
+            return get_slots(owner_of(sequence), record, sequenceMaskOffset, at, end);
+        },
+        [&](auto list) TARN_INLINE_LAMBDA { return get_elements(list, record, at, length, end); });
+}
+
+// Stores what the message that was judged good shares with the record's type.
+void get_shared(const SlotTable &table, const SlotTable &own, Input in, void *record) {
+    const uint8_t *const start = in.at;
+    for (const Slot *slot = slots_begin(table); slot != slots_end(table); ++slot) {
+        const uint8_t *const at = in.at;
+        if (judge_slot(*slot, start, &in) != Fate::taken)
+            continue;
+        for (const Slot *shared = slots_begin(own); shared != slots_end(own); ++shared)
+            if (shared->type == slot->type)
+                get_member(*shared, record, msgMaskOffset, at, in.at);
+    }
+}
+
+// Every Get reports this one token.
+[[gnu::cold]] uint32_t fail_get() {
+    constexpr uint32_t getToken = 0xB4D9287C;
+    velSwTokenDebug(getToken, 0);
+    return 0;
+}
+
+// The message may be any: it is decoded as what it says that it is.
+uint32_t get_any(const uint8_t *buffer, uint32_t length, void *record, MessageNumber own) {
+    const uint32_t id = peek_message_id(buffer, length);
+    if (id >= messageCount || slots_of(MessageNumber(id)).count == 0)
+        return fail_get();
+    const SlotTable &table = slots_of(MessageNumber(id));
+    Input in{buffer, length};
+    if (!decodes(judge_slots(table, &in)))
+        return fail_get();
+    get_shared(table, slots_of(own), Input{buffer, length}, record);
+    return 1;
+}
+
+[[gnu::cold]] uint32_t fail_build(uint32_t token) {
+    velSwTokenDebug(token, 0);
+    return 0;
+}
+
+[[gnu::cold]] uint32_t refuse_record(const Message &message, Reason reason) {
+    return fail_build(reason == Reason::outOfRange ? message.appendToken : message.validityToken);
+}
+
+[[gnu::cold]] uint32_t refuse_room(const Message &message) {
+    velSwFatalError("", moduleApi, __LINE__);
+    return fail_build(message.packToken);
+}
+
 } // namespace
 
+// The first slot is the MessageId IE: the record's own id is not read.
 template <class Id>
 uint32_t build_msg(uint8_t *buffer, uint32_t size, const void *record, Id id) {
     if (any_null(TARN_CALLER(moduleApi), buffer, record))
         return 0;
-    const Message &message = catalogue.messages[id];
-    TarnMsg *msg = new_msg(id);
-    Builder builder;
-    // The first slot is the MessageId IE, which is there already: the record's own id is not read.
-    const Built built = builder.slots<1>(id, record, msgMaskOffset, &msg->ies);
-    if (built == Built::failed)
-        return fail_build(msg, message.appendToken);
-    if (built == Built::invalid || builder.shortList)
-        return fail_build(msg, message.validityToken);
-    const Writing writing = write_msg(id, &msg->ies, Output{buffer, size});
-    delete_msg(msg);
-    if (writing.ok) [[likely]]
-        return writing.size;
-    // Every IE has a slot and a valid value, so it can only be room that is missing.
-    velSwFatalError("", moduleApi, __LINE__);
-    velSwTokenDebug(message.packToken, 0);
-    return 0;
+    const Outcome outcome = measure_slots<msgSkips>(behind_message_id(id), record, msgMaskOffset);
+    if (outcome.reason != Reason::none) [[unlikely]]
+        return refuse_record(catalogue.messages[id], outcome.reason);
+    const uint8_t number = id;
+    const uint32_t needed = headerSize + sizeof number + outcome.size;
+    if (needed > size) [[unlikely]]
+        return refuse_room(catalogue.messages[id]);
+    put_slots<msgSkips>(behind_message_id(id), record, msgMaskOffset,
+                        put_ie(asBuilt<typeMessageId>, &number, buffer));
+    return needed;
 }
 
 template <class Id>
 uint32_t get_msg(const uint8_t *buffer, uint32_t length, void *record, Id id) {
     if (any_null(TARN_CALLER(moduleApi), buffer, record))
         return 0;
-    TarnMsg *msg = unpack_msg_of_any_type(buffer, length);
-    if (msg == nullptr) {
-        velSwTokenDebug(getToken, 0);
-        return 0;
+#ifdef TARN_BUILT_FOR_SPEED
+    const uint8_t *const end = plain_slots(owner_of(id), buffer, buffer + length);
+    if (end != nullptr && buffer[headerSize] == id) [[likely]] {
+        get_slots(id, record, msgMaskOffset, buffer, end);
+        return 1;
     }
-    get_slots(id, &msg->ies, record, msgMaskOffset);
-    delete_msg(msg);
-    return 1;
+#endif
+    return get_any(buffer, length, record, id);
 }
 
 #ifdef TARN_BUILT_FOR_SPEED

@@ -1,6 +1,6 @@
 #include "tarn_if_conditional_funcs/conditions.h"
 
-#include "tarn_if_api/objects.h"
+#include "objects.h"
 
 namespace tarn {
 
@@ -12,24 +12,20 @@ uint32_t has_tag(const VelDllNode *member, const void *key) {
 
 } // namespace
 
-// The IEs looked for are code words, held in 32 bits; numbers beyond the set's bits are outside.
-bool condition_holds(ConditionId id, const VelDllHead *list) {
-    const Condition &condition = catalogue.conditions[id];
-    const uint16_t tag = condition.type;
+bool NumbersInList::find(TypeId id, uint32_t *number) const {
+    const uint16_t tag = id;
     const VelDllNode *found = xVelDllFindNode(list, has_tag, &tag, moduleConditional, __LINE__);
     if (found == nullptr)
         return false;
-    const auto *ie = reinterpret_cast<const TarnIe *>(found);
-    const uint32_t value = *static_cast<const uint32_t *>(value_of(ie));
-    const bool isInside = value < 8 && (condition.values >> value & 1) != 0;
-    return isInside == condition.counts;
+    *number = *static_cast<const uint32_t *>(value_of(reinterpret_cast<const TarnIe *>(found)));
+    return true;
 }
 
 bool Conditions::hold(ConditionId id) {
     const auto bit = uint8_t(1U << id);
     if ((known_ & bit) == 0) {
         known_ |= bit;
-        if (condition_holds(id, list_))
+        if (condition_holds(id, numbers_))
             true_ |= bit;
     }
     return (true_ & bit) != 0;
@@ -38,13 +34,13 @@ bool Conditions::hold(ConditionId id) {
 uint32_t condition_for_msg(const TarnMsg *msg, ConditionId id) {
     if (any_null(TARN_CALLER(moduleConditional), msg))
         return 0;
-    return condition_holds(id, &msg->ies);
+    return condition_holds(id, NumbersInList{&msg->ies});
 }
 
 uint32_t condition_for_ie(const TarnIe *ie, ConditionId id) {
     if (any_null(TARN_CALLER(moduleConditional), ie))
         return 0;
-    return condition_holds(id, children_of(ie));
+    return condition_holds(id, NumbersInList{children_of(ie)});
 }
 
 } // namespace tarn

@@ -1,27 +1,73 @@
-// The predicates that decide conditional presence.
+// The predicates that decide conditional presence, asked of bytes, of a record or of IE objects.
+//
+// What they are asked of finds the number of the IE that a condition looks at:
+//   bool find(TypeId id, uint32_t *number) const;
+// These IEs are mandatory code words, and only numbers stand before them.
 #ifndef TARN_CONDITIONS_H
 #define TARN_CONDITIONS_H
 
-#include "catalogue/descriptors.h"
+#include "catalogue/catalogue.h"
 #include "platform_calls.h"
+#include "wire.h"
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
-// Whether the condition holds among the IEs of the list. An IE that is not there answers false:
-// the validators ask before they have seen whether the list is complete.
-bool condition_holds(ConditionId id, const VelDllHead *list);
+// Whether the condition holds; not if the IE that it looks at is not there: the validators ask
+// before they have seen whether a list is complete. Numbers beyond the set's bits are outside.
+template <class Numbers>
+TARN_INLINE bool condition_holds(ConditionId id, const Numbers &numbers) {
+    const Condition &condition = catalogue.conditions[id];
+    uint32_t number = 0;
+    if (!numbers.find(condition.type, &number))
+        return false;
+    const bool isInside = number < 8 && (condition.values >> number & 1) != 0;
+    return isInside == condition.counts;
+}
 
-// The answers for one owner, each asked of the platform once at the most and only when needed. The
-// IEs that conditions look at are mandatory ones, which stand before every conditional slot, so an
-// answer does not change during a walk.
+// The owner's IEs on the wire, from the first one on.
+struct NumbersInBytes {
+    const uint8_t *start;
+
+    TARN_INLINE bool find(TypeId id, uint32_t *number) const {
+        const uint8_t *at = start;
+        while (load16(at) != id)
+            at += headerSize + load32(at + tagSize);
+        *number = load16(at + headerSize);
+        return true;
+    }
+};
+
+// The members of the owner's record, which hold all 32 bits of a code word.
+struct NumbersInRecord {
+    const SlotTable &table;
+    const void *record;
+
+    TARN_INLINE bool find(TypeId id, uint32_t *number) const {
+        const Slot *slot = slots_begin(table);
+        while (slot->type != id)
+            ++slot;
+        *number = *static_cast<const uint32_t *>(at_offset(record, slot->recordOffset));
+        return true;
+    }
+};
+
+// The owner's IE objects, as the platform finds them.
+struct NumbersInList {
+    const VelDllHead *list;
+
+    bool find(TypeId id, uint32_t *number) const;
+};
+
+// The answers for one owner's IE objects, each asked of the platform once at the most and only when
+// needed.
 class Conditions {
 public:
-    explicit Conditions(const VelDllHead *list) : list_(list) {}
+    explicit Conditions(const VelDllHead *list) : numbers_{list} {}
 
     bool hold(ConditionId id);
 
 private:
-    const VelDllHead *list_;
+    NumbersInList numbers_;
     uint8_t known_ = 0;
     uint8_t true_ = 0;
 };

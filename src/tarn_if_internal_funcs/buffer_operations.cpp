@@ -3,7 +3,7 @@
 #include "platform_calls.h"
 #include "tarn_if_internal_funcs/sizes.h"
 #include "tarn_if_internal_funcs/unpacking.h"
-#include "tarn_if_internal_funcs/wire.h"
+#include "wire.h"
 
 using namespace tarn;
 

@@ -16,7 +16,7 @@ template <auto value>
 using Constant = std::integral_constant<decltype(value), value>;
 
 template <class Id>
-inline constexpr bool isConstant = !std::is_enum_v<Id>;
+inline constexpr bool isConstant = !std::is_enum_v<Id> && !std::is_same_v<Id, SlotTable>;
 
 // A case of a switch by type or message: calls `use` with it as a constant. Handlers of rows.
 #define TARN_TYPE_CASE(name_, ...)                                                                 \

@@ -1,6 +1,6 @@
 #include "tarn_if_internal_funcs/packing.h"
 
-#include "tarn_if_api/objects.h"
+#include "objects.h"
 #include "tarn_if_internal_funcs/sizes.h"
 #include "tarn_if_internal_funcs/slots.h"
 #include "tarn_if_internal_funcs/values.h"
@@ -69,9 +69,10 @@ private:
 // Writes the IEs of a list in list order, each of which must have a slot, and advances `out` by
 // what was written; false at the first that has none or cannot be written.
 template <class Owner>
-TARN_INLINE bool write_slots(Owner owner, const VelDllHead *list, Caller caller, Output *out) {
+TARN_SHARED bool write_slots(const Owner &owner, const VelDllHead *list, Caller caller,
+                             Output *out) {
     SlotWriter writer{*out};
-    const TarnIe *stray = visit_ies<Stray::stops>(owner, list, caller, &writer);
+    const TarnIe *stray = visit_ies(owner, list, caller, &writer);
     *out = writer.out;
     return stray == nullptr;
 }
@@ -94,7 +95,7 @@ TARN_INLINE bool write_children(Id id, const VelDllHead *children, Output *out) 
     return by_kind<is_sequence>(
         id,
         [&](auto sequence) TARN_INLINE_LAMBDA {
-            return write_slots(sequence, children, TARN_CALLER(moduleInternal), out);
+            return write_slots(owner_of(sequence), children, TARN_CALLER(moduleInternal), out);
         },
         [&](auto list) TARN_INLINE_LAMBDA { return write_elements(list, children, out); });
 }
@@ -104,7 +105,7 @@ TARN_INLINE bool write_children(Id id, const VelDllHead *children, Output *out) 
 template <class Id>
 Writing write_msg(Id id, const VelDllHead *list, Output out) {
     const uint32_t room = out.left;
-    const bool ok = write_slots(id, list, TARN_CALLER(moduleApi), &out);
+    const bool ok = write_slots(owner_of(id), list, TARN_CALLER(moduleApi), &out);
     return {room - out.left, ok};
 }
 

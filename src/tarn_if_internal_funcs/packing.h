@@ -4,7 +4,7 @@
 
 #include "catalogue/descriptors.h"
 #include "platform_calls.h"
-#include "tarn_if_internal_funcs/wire.h"
+#include "wire.h"
 
 namespace [[gnu::visibility("hidden")]] tarn {
 

@@ -1,6 +1,7 @@
 #include "tarn_if_internal_funcs/primitive_operations.h"
 
 #include "platform_calls.h"
+#include "tarn_if_internal_funcs/judging.h"
 #include "tarn_if_internal_funcs/values.h"
 
 namespace tarn {
@@ -27,7 +28,13 @@ uint32_t unpack_value(void *value, uint32_t length, const uint8_t *buffer, uint3
                       uint32_t *consumed, TypeId id) {
     if (any_null(TARN_CALLER(moduleInternal), value, buffer, consumed))
         return 0;
-    return read_value(id, value, length, Input{buffer, available}, consumed);
+    Input in{buffer, available};
+    const bool ok = decodes(judge_value(id, value, length, &in));
+    const Kind kind = type_of(id).kind;
+    // A scalar or byte string leaves the count alone when it fails.
+    if (ok || kind == Kind::record || kind == Kind::list)
+        *consumed = available - in.left;
+    return ok;
 }
 
 uint32_t is_value_valid(const void *value, TypeId id) {

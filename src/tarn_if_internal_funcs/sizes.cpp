@@ -1,6 +1,6 @@
 #include "tarn_if_internal_funcs/sizes.h"
 
-#include "tarn_if_api/objects.h"
+#include "objects.h"
 #include "tarn_if_internal_funcs/values.h"
 
 namespace tarn {

@@ -35,26 +35,30 @@ TARN_INLINE auto with_composite(Constant<id> known, Use use) {
     return use(known);
 }
 
-// Likewise with a message's id. For an id that is not in use the result is a null pointer.
+// Likewise with a message's id, to make a message; there is none for an id that is not in use.
 template <class Use>
-TARN_INLINE auto with_message(MessageNumber id, Use use) {
+TARN_INLINE TarnMsg *with_message(MessageNumber id, Use use) {
     if constexpr (builtForSpeed) {
         switch (id) {
 #define MESSAGE TARN_MESSAGE_CASE
 #include "catalogue/messages.def"
         default:
-            return decltype(use(id))();
+            return nullptr;
         }
     } else {
         return catalogue.messages[id].slots.count != 0 ? use(id) : nullptr;
     }
 }
 
-inline constexpr const SlotTable &slots_of(MessageNumber id) {
-    return catalogue.messages[id].slots;
+// Whose slots are walked: for a constant itself, else the table, so that messages and composites
+// share what walks it.
+template <auto id>
+constexpr Constant<id> owner_of(Constant<id> known) {
+    return known;
 }
-inline constexpr const SlotTable &slots_of(TypeId sequence) {
-    return type_of(sequence).slots;
+template <class Id>
+const SlotTable &owner_of(Id id) {
+    return slots_of(id);
 }
 
 // Calls the one that fits the type's kind, of which only that one is compiled for a constant.
@@ -70,13 +74,6 @@ TARN_INLINE auto by_kind(Id id, UseThat that, UseOther other) {
     }
 }
 
-inline const Slot *slots_begin(const SlotTable &table) {
-    return catalogue.slots + table.first;
-}
-inline const Slot *slots_end(const SlotTable &table) {
-    return slots_begin(table) + table.count;
-}
-
 // A slot whose fields are constants.
 template <unsigned index>
 struct FixedSlot {
@@ -90,27 +87,14 @@ struct FixedSlot {
     static constexpr uint16_t recordOffset = row.recordOffset;
 };
 
-inline const Slot *row_of(const Slot &slot) {
-    return &slot;
-}
-template <unsigned index>
-const Slot *row_of(FixedSlot<index>) {
-    return catalogue.slots + index;
-}
-
-template <class AnySlot>
-inline constexpr bool is_conditional(const AnySlot &slot) {
-    return slot.presence >= Presence::conditional;
-}
-
 template <unsigned first, size_t... index, class Visit>
-TARN_INLINE bool visit_fixed(std::index_sequence<index...>, Visit &visit) {
+TARN_INLINE bool visit_fixed(std::index_sequence<index...>, [[maybe_unused]] Visit &visit) {
     return (visit(FixedSlot<first + index>()) && ...);
 }
 
 // Calls `visit` with each slot of the owner but the first `skipped`, as long as it returns true.
 template <unsigned skipped, class Owner, class Visit>
-TARN_INLINE bool each_slot_behind(Owner owner, Visit visit) {
+TARN_INLINE bool each_slot_behind(const Owner &owner, Visit visit) {
     if constexpr (isConstant<Owner>) {
         constexpr const SlotTable &table = slots_of(Owner::value);
         return visit_fixed<table.first + skipped>(std::make_index_sequence<table.count - skipped>(),
@@ -126,8 +110,35 @@ TARN_INLINE bool each_slot_behind(Owner owner, Visit visit) {
 }
 
 template <class Owner, class Visit>
-TARN_INLINE bool each_slot(Owner owner, Visit visit) {
+TARN_INLINE bool each_slot(const Owner &owner, Visit visit) {
     return each_slot_behind<0>(owner, visit);
+}
+
+// A member of a record whose fields are constants.
+template <unsigned index>
+struct FixedMember {
+    static constexpr Constant<catalogue.members[index].type> type{};
+    static constexpr uint16_t offset = catalogue.members[index].offset;
+};
+
+template <unsigned first, size_t... index, class Visit>
+TARN_INLINE bool visit_fixed_members(std::index_sequence<index...>, [[maybe_unused]] Visit visit) {
+    return (visit(FixedMember<first + index>()) && ...);
+}
+
+// Calls `visit` with each member of the record as long as it returns true.
+template <class Id, class Visit>
+TARN_INLINE bool each_member(Id record, [[maybe_unused]] Visit visit) {
+    if constexpr (isConstant<Id>) {
+        constexpr SlotTable table = type_of(Id::value).slots;
+        return visit_fixed_members<table.first>(std::make_index_sequence<table.count>(), visit);
+    } else {
+        const SlotTable &table = type_of(record).slots;
+        for (unsigned i = 0; i < table.count; ++i)
+            if (!visit(catalogue.members[table.first + i]))
+                return false;
+        return true;
+    }
 }
 
 // Finds the slots of IEs one after the other. IEs mostly stand in the order of their slots, so each
@@ -135,9 +146,8 @@ TARN_INLINE bool each_slot(Owner owner, Visit visit) {
 // twice fills its slots in order.
 class SlotFinder {
 public:
-    // `next` stands behind the slot found last, if one was found already.
-    explicit SlotFinder(const SlotTable &table, const Slot *next)
-        : begin_(slots_begin(table)), end_(slots_end(table)), next_(next) {}
+    explicit SlotFinder(const SlotTable &table)
+        : begin_(slots_begin(table)), end_(slots_end(table)), next_(begin_) {}
 
     // Returns the slot of this tag, or null when the owner has none.
     const Slot *find(uint32_t tag) {
@@ -162,34 +172,27 @@ private:
     const Slot *next_;
 };
 
-// Whether a walk of IEs stops at one without a slot or passes over it. One that stops asks for no
-// more than the type, which a child named twice has in both its slots.
-enum class Stray : bool { stops, isPassedOver };
-
-template <Stray stray, class Visitor>
+template <class Visitor>
 const TarnIe *visit_ies_from(const TarnIe *ie, const VelDllHead *list, const SlotTable &table,
-                             const Slot *next, Caller caller, Visitor *visitor) {
-    SlotFinder slots(table, next);
+                             Caller caller, Visitor *visitor) {
+    SlotFinder slots(table);
     for (; ie != nullptr; ie = next_ie(list, ie, caller)) {
         const Slot *slot = slots.find(ie->tag);
-        if (slot == nullptr && stray == Stray::isPassedOver)
-            continue;
         if (slot == nullptr || !visitor->visit(*slot, ie))
             break;
     }
     return ie;
 }
 
-// Calls the visitor with each IE of the list, in list order, and the slot that it stands in, as
-// long as it returns true. Returns the IE where the walk stopped, or null behind the last one.
+// Calls the visitor with each IE of the list, in list order, and a slot of its type, as long as
+// there is one and it returns true. Returns the IE where the walk stopped, or null behind the last.
 //
 // IEs that stand in the order of the owner's slots, each at most once, need no search; from the
 // first that does not, the rest of the list is searched for.
-template <Stray stray, class Owner, class Visitor>
-TARN_INLINE const TarnIe *visit_ies(Owner owner, const VelDllHead *list, Caller caller,
+template <class Owner, class Visitor>
+TARN_INLINE const TarnIe *visit_ies(const Owner &owner, const VelDllHead *list, Caller caller,
                                     Visitor *visitor) {
     const TarnIe *ie = first_ie(list, caller);
-    const Slot *next = slots_begin(slots_of(owner));
     if constexpr (isConstant<Owner>) {
         const bool goesOn = each_slot(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
             if (ie == nullptr)
@@ -199,15 +202,13 @@ TARN_INLINE const TarnIe *visit_ies(Owner owner, const VelDllHead *list, Caller 
             if (!visitor->visit(slot, ie))
                 return false;
             ie = next_ie(list, ie, caller);
-            if constexpr (stray == Stray::isPassedOver)
-                next = row_of(slot) + 1;
             return true;
         });
         if (!goesOn || ie == nullptr)
             return ie;
     }
     Visitor rest = *visitor; // so that only the copy's address is known elsewhere
-    ie = visit_ies_from<stray>(ie, list, slots_of(owner), next, caller, &rest);
+    ie = visit_ies_from(ie, list, slots_of(owner), caller, &rest);
     *visitor = rest;
     return ie;
 }

@@ -1,6 +1,6 @@
 #include "tarn_if_internal_funcs/validity.h"
 
-#include "tarn_if_api/objects.h"
+#include "objects.h"
 #include "tarn_if_conditional_funcs/conditions.h"
 #include "tarn_if_internal_funcs/slots.h"
 #include "tarn_if_internal_funcs/values.h"

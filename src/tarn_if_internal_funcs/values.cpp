@@ -1,6 +1,6 @@
 #include "tarn_if_internal_funcs/values.h"
 
-#include "tarn_if_internal_funcs/constants.h"
+#include "tarn_if_internal_funcs/slots.h"
 
 namespace tarn {
 
@@ -8,28 +8,8 @@ namespace {
 
 // ---- Access to what a value record holds -------------------------------------------------------
 
-void set_stored_count(void *value, uint32_t count) {
-    *static_cast<uint32_t *>(value) = count;
-}
-
-const uint8_t *bytes_of(const void *value) {
-    return static_cast<const uint8_t *>(value) + sizeof(uint32_t);
-}
-
-const void *at_offset(const void *value, uint32_t offset) {
-    return static_cast<const uint8_t *>(value) + offset;
-}
-
-void *at_offset(void *value, uint32_t offset) {
-    return static_cast<uint8_t *>(value) + offset;
-}
-
-const void *item_of(const Type &list, const void *value, uint32_t index) {
-    return at_offset(value, list.array.offset + index * list.array.stride);
-}
-
-void *item_of(const Type &list, void *value, uint32_t index) {
-    return at_offset(value, list.array.offset + index * list.array.stride);
+const void *bytes_of(const void *value) {
+    return at_offset(value, sizeof(uint32_t));
 }
 
 // ---- Records and lists by type -----------------------------------------------------------------
@@ -74,33 +54,6 @@ TARN_INLINE auto by_shape(Id id, UseRecord record, UseList list, UseOther other)
     }
 }
 
-// A member of a record whose fields are constants.
-template <unsigned index>
-struct FixedMember {
-    static constexpr Constant<catalogue.members[index].type> type{};
-    static constexpr uint16_t offset = catalogue.members[index].offset;
-};
-
-template <unsigned first, size_t... index, class Visit>
-TARN_INLINE bool visit_fixed_members(std::index_sequence<index...>, Visit visit) {
-    return (visit(FixedMember<first + index>()) && ...);
-}
-
-// Calls `visit` with each member of the record as long as it returns true.
-template <class Id, class Visit>
-TARN_INLINE bool each_member(Id record, Visit visit) {
-    if constexpr (isConstant<Id>) {
-        constexpr SlotTable table = type_of(Id::value).slots;
-        return visit_fixed_members<table.first>(std::make_index_sequence<table.count>(), visit);
-    } else {
-        const SlotTable &table = type_of(record).slots;
-        for (unsigned i = 0; i < table.count; ++i)
-            if (!visit(catalogue.members[table.first + i]))
-                return false;
-        return true;
-    }
-}
-
 // ---- Numbers -----------------------------------------------------------------------------------
 
 bool write_number(const Type &type, const void *value, Output out, uint32_t *written) {
@@ -112,15 +65,6 @@ bool write_number(const Type &type, const void *value, Output out, uint32_t *wri
     return true;
 }
 
-bool read_number(const Type &type, void *value, uint32_t length, Input in, uint32_t *consumed) {
-    const uint32_t width = type.fixedSize;
-    if (length != width || width > in.left)
-        return false;
-    store_number(type.kind, value, load_wire(in.at, width));
-    *consumed = width;
-    return true;
-}
-
 // ---- Byte strings ------------------------------------------------------------------------------
 
 bool write_bytes(const Type &type, const void *value, Output out, uint32_t *written) {
@@ -129,17 +73,6 @@ bool write_bytes(const Type &type, const void *value, Output out, uint32_t *writ
         return false;
     memcpy(out.at, bytes_of(value), length);
     *written = length;
-    return true;
-}
-
-// Any length that the array holds is taken: whether it is in range is the validator's affair, so
-// that a caller can look at what a peer sent. Only the bytes that came are copied.
-bool read_bytes(const Type &type, void *value, uint32_t length, Input in, uint32_t *consumed) {
-    if (length > type.capacity || length > in.left)
-        return false;
-    set_stored_count(value, length);
-    memcpy(at_offset(value, sizeof(uint32_t)), in.at, length);
-    *consumed = length;
     return true;
 }
 
@@ -163,24 +96,6 @@ TARN_INLINE bool write_nested(Id id, const void *value, Output *out) {
     return ok;
 }
 
-template <class Id>
-TARN_INLINE bool read_nested(Id id, void *value, Input *in) {
-    const Kind kind = type_of(id).kind;
-    if constexpr (builtForSpeed) {
-        uint32_t number = 0;
-        const uint32_t size = is_number(kind) ? read_number_ie(kind, id, *in, &number) : 0;
-        in->skip(size);
-        if (size != 0) [[likely]] {
-            store_number(kind, value, number);
-            return true;
-        }
-    }
-    uint32_t consumed = 0;
-    const bool ok = read_known_tlv(id, value, *in, &consumed);
-    in->skip(consumed);
-    return ok;
-}
-
 // ---- Records -----------------------------------------------------------------------------------
 
 template <class Id>
@@ -201,20 +116,6 @@ TARN_INLINE bool write_record(Id id, const void *value, Output out, uint32_t *wr
         return write_nested(member.type, at_offset(value, member.offset), &rest);
     });
     *written = out.left - rest.left;
-    return ok;
-}
-
-// A member is bounded by the buffer and not by the record's length, and a record counts as used up
-// once the bytes read reach or pass that length. Bytes after the last member are not looked at.
-template <class Id>
-TARN_INLINE bool read_record(Id id, void *value, uint32_t length, Input in, uint32_t *consumed) {
-    Input rest = in;
-    const bool ok =
-        length <= in.left && each_member(id, [&](const auto &member) TARN_INLINE_LAMBDA {
-            return in.left - rest.left < length &&
-                   read_nested(member.type, at_offset(value, member.offset), &rest);
-        });
-    *consumed = in.left - rest.left;
     return ok;
 }
 
@@ -258,33 +159,6 @@ TARN_INLINE bool write_list(Id id, const void *value, Output out, uint32_t *writ
     return all;
 }
 
-// Items are bounded by the buffer; the list ends when its length is used up, that is reached or
-// passed. More items than the array holds fail with the value as it was.
-template <class Id>
-TARN_INLINE bool read_list(Id id, void *value, uint32_t length, Input in, uint32_t *consumed) {
-    *consumed = 0;
-    if (length > in.left)
-        return false;
-    const Type &type = type_of(id);
-    alignas(4) uint8_t former[listValueLimit];
-    memcpy(former, value, type.valueSize);
-    Input rest = in;
-    uint32_t items = 0;
-    bool ok = true;
-    while (ok && in.left - rest.left < length) {
-        if (items == type.capacity) {
-            memcpy(value, former, type.valueSize);
-            *consumed = in.left - rest.left;
-            return false;
-        }
-        ok = read_nested(element_of(id), item_of(type, value, items), &rest);
-        items += ok ? 1 : 0;
-    }
-    set_stored_count(value, items);
-    *consumed = in.left - rest.left;
-    return ok;
-}
-
 template <class Id>
 bool list_is_valid(Id id, const void *value) {
     const Type &type = type_of(id);
@@ -324,20 +198,6 @@ TARN_INLINE bool write_by_shape(Id id, const void *value, Output out, uint32_t *
         });
 }
 
-template <class Id>
-TARN_INLINE bool read_by_shape(Id id, void *value, uint32_t length, Input in, uint32_t *consumed) {
-    return by_shape(
-        id,
-        [&](auto record)
-            TARN_INLINE_LAMBDA { return read_record(record, value, length, in, consumed); },
-        [&](auto list) TARN_INLINE_LAMBDA { return read_list(list, value, length, in, consumed); },
-        [&](auto other) TARN_INLINE_LAMBDA {
-            const Type &type = type_of(other);
-            return type.kind == Kind::bytes ? read_bytes(type, value, length, in, consumed)
-                                            : read_number(type, value, length, in, consumed);
-        });
-}
-
 } // namespace
 
 template <class Id>
@@ -369,36 +229,12 @@ bool write_known_tlv(Id id, const void *value, Output out, uint32_t *written) {
     return true;
 }
 
-template <class Id>
-bool read_known_tlv(Id id, void *value, Input in, uint32_t *consumed) {
-    *consumed = 0;
-    if (!in.has_tag(id))
-        return false;
-    *consumed = tagSize;
-    if (in.left < headerSize)
-        return false;
-    *consumed = headerSize;
-    const uint32_t length = load32(in.at + tagSize);
-    in.skip(headerSize);
-    uint32_t count = 0;
-    if (!read_by_shape(id, value, length, in, &count))
-        return false;
-    *consumed = headerSize + count;
-    return true;
-}
-
 uint32_t value_size(TypeId id, const void *value) {
     return with_type(id, [&](auto known) { return size_of(known, value); });
 }
 
 bool write_value(TypeId id, const void *value, Output out, uint32_t *written) {
     return with_type(id, [&](auto known) { return write_by_shape(known, value, out, written); });
-}
-
-bool read_value(TypeId id, void *value, uint32_t length, Input in, uint32_t *consumed) {
-    return with_type(id, [&](auto known) TARN_INLINE_LAMBDA {
-        return read_by_shape(known, value, length, in, consumed);
-    });
 }
 
 bool any_is_valid(TypeId id, const void *value) {
@@ -412,17 +248,10 @@ bool write_any_tlv(TypeId id, const void *value, Output out, uint32_t *written) 
     });
 }
 
-bool read_any_tlv(TypeId id, void *value, Input in, uint32_t *consumed) {
-    return with_type(id, [&](auto known) TARN_INLINE_LAMBDA {
-        return read_known_tlv(known, value, in, consumed);
-    });
-}
-
 #ifdef TARN_BUILT_FOR_SPEED
 #define OWN_CODEC(name_, ...)                                                                      \
     template bool known_is_valid(Constant<type##name_>, const void *);                             \
-    template bool write_known_tlv(Constant<type##name_>, const void *, Output, uint32_t *);        \
-    template bool read_known_tlv(Constant<type##name_>, void *, Input, uint32_t *);
+    template bool write_known_tlv(Constant<type##name_>, const void *, Output, uint32_t *);
 #define RECORD OWN_CODEC
 #define LIST   OWN_CODEC
 #include "catalogue/primitive_ies.def"

@@ -9,7 +9,7 @@
 #include <string.h>
 
 #include "tarn_if_internal_funcs/constants.h"
-#include "tarn_if_internal_funcs/wire.h"
+#include "wire.h"
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
@@ -22,21 +22,13 @@ uint32_t value_size(TypeId id, const void *value);
 // before the point of failure for a record or list.
 bool write_value(TypeId id, const void *value, Output out, uint32_t *written);
 
-// Reads a value of `length` bytes and sets *consumed, returning true; or returns false. Then
-// *consumed is untouched for a scalar or byte string, and holds the bytes before the point of
-// failure for a record or list.
-bool read_value(TypeId id, void *value, uint32_t length, Input in, uint32_t *consumed);
-
 // What the three below come to: for any type, and built for speed for each record and list.
 bool any_is_valid(TypeId id, const void *value);
 bool write_any_tlv(TypeId id, const void *value, Output out, uint32_t *written);
-bool read_any_tlv(TypeId id, void *value, Input in, uint32_t *consumed);
 template <class Id>
 bool known_is_valid(Id id, const void *value);
 template <class Id>
 bool write_known_tlv(Id id, const void *value, Output out, uint32_t *written);
-template <class Id>
-bool read_known_tlv(Id id, void *value, Input in, uint32_t *consumed);
 
 template <class Id>
 constexpr bool has_own_codec() {
@@ -73,16 +65,6 @@ TARN_INLINE bool write_tlv(Id id, const void *value, Output out, uint32_t *writt
         return write_known_tlv(id, value, out, written);
     else
         return write_any_tlv(id, value, out, written);
-}
-
-// Reads tag, length and value, setting *consumed, and returns true; or false with the bytes before
-// the point of failure: 0 at the tag, 2 at the length, 6 at the value.
-template <class Id>
-TARN_INLINE bool read_tlv(Id id, void *value, Input in, uint32_t *consumed) {
-    if constexpr (has_own_codec<Id>())
-        return read_known_tlv(id, value, in, consumed);
-    else
-        return read_any_tlv(id, value, in, consumed);
 }
 
 // ---- Numbers -----------------------------------------------------------------------------------
@@ -143,21 +125,14 @@ TARN_INLINE uint32_t write_number_ie(Kind kind, uint32_t tag, uint32_t number, O
     return headerSize + width;
 }
 
-// Reads the number of a whole IE and returns the IE's size, or returns 0 when the tag is another,
-// the length is not the number's width or the bytes end.
-TARN_INLINE uint32_t read_number_ie(Kind kind, uint32_t tag, Input in, uint32_t *number) {
-    const uint32_t width = wire_width(kind);
-    if (in.left < headerSize + width || load16(in.at) != tag || load32(in.at + tagSize) != width)
-        return 0;
-    *number = load_wire(in.at + headerSize, width);
-    return headerSize + width;
-}
-
 // ---- Byte strings ------------------------------------------------------------------------------
 
 // A byte string and a list begin with their count; the bytes or items follow.
 inline uint32_t stored_count(const void *value) {
     return *static_cast<const uint32_t *>(value);
+}
+inline void store_count(void *value, uint32_t count) {
+    *static_cast<uint32_t *>(value) = count;
 }
 
 // Writes a whole byte string IE and returns its size, or returns 0 when it does not fit or its

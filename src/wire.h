@@ -1,12 +1,12 @@
-// Bytes on the wire: big-endian loads and stores, and a cursor that counts bytes remaining.
+// Bytes on the wire: big-endian loads and stores at any address, and cursors.
 //
-// Everything is assembled byte by byte, so buffers may start at any address. Bounds are checked
-// against what remains and never against a sum of pointers: a 4-byte length would overflow a 32-bit
-// address space.
+// Bounds are checked against what remains and never against a sum of pointers: a 4-byte length
+// would overflow a 32-bit address space.
 #ifndef TARN_WIRE_H
 #define TARN_WIRE_H
 
 #include <stdint.h>
+#include <string.h>
 
 #include "build_goal.h"
 
@@ -16,22 +16,28 @@ inline constexpr uint32_t tagSize = 2;
 inline constexpr uint32_t lengthSize = 4;
 inline constexpr uint32_t headerSize = tagSize + lengthSize;
 
+inline constexpr bool isLittleEndian = __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__;
+
 TARN_INLINE uint32_t load16(const uint8_t *at) {
-    return uint32_t(at[0]) << 8 | at[1];
+    uint16_t value;
+    memcpy(&value, at, sizeof value);
+    return isLittleEndian ? __builtin_bswap16(value) : value;
 }
 
 TARN_INLINE uint32_t load32(const uint8_t *at) {
-    return load16(at) << 16 | load16(at + 2);
+    uint32_t value;
+    memcpy(&value, at, sizeof value);
+    return isLittleEndian ? __builtin_bswap32(value) : value;
 }
 
 TARN_INLINE void store16(uint8_t *at, uint32_t value) {
-    at[0] = uint8_t(value >> 8);
-    at[1] = uint8_t(value);
+    const uint16_t bytes = isLittleEndian ? __builtin_bswap16(uint16_t(value)) : uint16_t(value);
+    memcpy(at, &bytes, sizeof bytes);
 }
 
 TARN_INLINE void store32(uint8_t *at, uint32_t value) {
-    store16(at, value >> 16);
-    store16(at + 2, value);
+    const uint32_t bytes = isLittleEndian ? __builtin_bswap32(value) : value;
+    memcpy(at, &bytes, sizeof bytes);
 }
 
 TARN_INLINE void store_header(uint8_t *at, uint32_t tag, uint32_t length) {

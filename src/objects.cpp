@@ -1,14 +1,6 @@
-#include "tarn_if_api/objects.h"
-
-#include <initializer_list>
+#include "objects.h"
 
 namespace tarn {
-
-void report_nulls(Caller caller, const void *first, const void *second, const void *third) {
-    for (const void *pointer : {first, second, third})
-        if (pointer == nullptr)
-            velSwFatalError("", caller.module, caller.line);
-}
 
 namespace {
 

@@ -1,0 +1,36 @@
+#include "tarn_if_internal_funcs/judging.h"
+
+namespace tarn {
+
+namespace {
+
+struct Nobody {
+    void enters(Place, TypeId, const uint8_t *) {}
+    void finds(Reason, const uint8_t *, uint32_t) {}
+    void reads(uint32_t, uint32_t) {}
+    void leaves(Outcome, Fate) {}
+};
+
+Judge<Nobody> judge() {
+    return Judge<Nobody>(nullptr);
+}
+
+} // namespace
+
+Reason judge_slots(const SlotTable &table, Input *in) {
+    return judge().slots(table, in);
+}
+
+Reason judge_ie(TypeId id, void *to, Input *in) {
+    return judge().ie(id, to, in);
+}
+
+Reason judge_value(TypeId id, void *to, uint32_t length, Input *in) {
+    return judge().value(type_of(id), to, length, in);
+}
+
+Fate judge_slot(const Slot &slot, const uint8_t *start, Input *in) {
+    return judge().slot(slot, start, in);
+}
+
+} // namespace tarn
