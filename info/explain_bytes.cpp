@@ -18,16 +18,26 @@ constexpr std::uint32_t getToken = 0xB4D9287C;
 // More are not told: hostile bytes could ask for millions.
 constexpr std::size_t mostNotes = 1000;
 
-// What became of the IE or value that is being tried.
+// What became of the IE or value that is being tried. Most that is found is an optional IE that is
+// not there, so it is put into words only when it matters.
 struct Frame {
     Place place{};
     const TarnInfoType *type = nullptr;
     std::uint32_t at = 0;
     std::size_t notes = 0;         // told before it
     std::uint32_t lastElement = 0; // of a list
-    Finding finding{};             // why it is not taken, if it is not
-    bool isUndecodable = false;    // by that finding
-    bool isPastEnd = false;        // likewise: whatever comes behind is of no interest
+    Reason found = Reason::none;   // here, with position and number
+    std::uint32_t foundAt = 0;
+    std::uint32_t number = 0;
+    Finding below{};            // or in a part of it
+    bool isUndecodable = false; // by what was found
+
+    // Whether something is known that another finding, of this kind, does not outdo. Once an
+    // element has passed the end of its list, whatever comes behind is of no interest.
+    bool is_settled(bool byUndecodable) const {
+        return (found != Reason::none || below) &&
+               (found == Reason::pastEnd || isUndecodable || !byUndecodable);
+    }
 };
 
 class Listener {
@@ -38,18 +48,20 @@ public:
     }
 
     void enters(Place place, tarn::TypeId type, const std::uint8_t *at) {
-        if (place.kind == Place::element || place.kind == Place::item)
-            frames_.back().lastElement = place.number;
+        Frame &owner = frames_.back();
+        if (place.kind == Place::element && owner.found != Reason::pastEnd)
+            owner.lastElement = place.number;
         frames_.push_back({place, &facts.types[type], offset_of(at), out_.foundNotes.size()});
     }
 
     void finds(Reason reason, const std::uint8_t *at, std::uint32_t number) {
         Frame &frame = frames_.back();
-        if (frame.isPastEnd || (frame.finding && (frame.isUndecodable || tarn::decodes(reason))))
+        if (frame.is_settled(!tarn::decodes(reason)))
             return;
-        frame.finding = finding(reason, offset_of(at), number);
+        frame.found = reason;
+        frame.foundAt = offset_of(at);
+        frame.number = number;
         frame.isUndecodable = !tarn::decodes(reason);
-        frame.isPastEnd = reason == Reason::pastEnd;
     }
 
     void reads(std::uint32_t declared, std::uint32_t used) {
@@ -65,28 +77,21 @@ public:
     }
 
     void leaves(Outcome outcome, Fate fate) {
-        Frame frame = std::move(frames_.back());
-        frames_.pop_back();
-        Frame &owner = frames_.back();
-        const bool isIe = frame.place.kind == Place::slot || frame.place.kind == Place::element;
-        if (fate == Fate::taken) {
-            if (outcome.reason != Reason::none) // a member or item out of range
-                hand_up(&frame, &owner);
-            else if (frames_.size() == 1)
-                taken_.push_back(slot_of(frame.place));
-            return;
-        }
-        out_.foundNotes.erase(out_.foundNotes.begin() + long(frame.notes), out_.foundNotes.end());
+        Frame &frame = frames_.back();
+        Frame &owner = frames_[frames_.size() - 2];
         if (fate == Fate::refuses) {
-            if (isIe && !hasStopped_)
-                stop_ = frame.at;
-            hasStopped_ = hasStopped_ || isIe;
-            reword_needed(outcome, &frame);
-            hand_up(&frame, &owner);
-        } else {
+            refuse(&frame, &owner);
+        } else if (fate == Fate::leftOut) {
             hasStopped_ = false;
-            leave_out(outcome, &frame, &owner);
+            leave_out(outcome.reason, &frame, &owner);
+        } else if (outcome.reason != Reason::none) { // a member or item out of range
+            hand_up(&frame, &owner);
+        } else if (frames_.size() == 2) {
+            taken_.push_back(slot_of(frame.place));
         }
+        if (fate != Fate::taken)
+            out_.foundNotes.resize(frame.notes);
+        frames_.pop_back();
     }
 
     // Once the judge is done.
@@ -110,36 +115,36 @@ private:
         return path;
     }
 
-    Finding finding(Reason reason, std::uint32_t at, std::uint32_t number) const;
+    // What was found in the innermost frame, in words.
+    Finding finding() const;
+    Finding take_finding(Frame *frame) {
+        return frame->found != Reason::none ? finding() : std::move(frame->below);
+    }
 
-    static void hand_up(Frame *frame, Frame *owner) {
-        if (owner->isPastEnd || (owner->finding && (owner->isUndecodable || !frame->isUndecodable)))
+    void hand_up(Frame *frame, Frame *owner) {
+        if (owner->is_settled(frame->isUndecodable))
             return;
-        owner->finding = std::move(frame->finding);
+        owner->below = take_finding(frame);
+        owner->found = Reason::none;
         owner->isUndecodable = frame->isUndecodable;
     }
 
-    // A child that is called for and not there was not merely expected.
-    void reword_needed(const Outcome &outcome, Frame *frame) const {
-        const TarnInfoSlot *slot = slot_of(frame->place);
-        if (outcome.reason != Reason::otherTag || slot == nullptr || slot->condition == nullptr)
-            return;
-        TarnInfoWords words{};
-        words.slot = slot;
-        words.found = load16(bytes_ + frame->at);
-        frame->finding =
-            make_finding(frame->at, TarnInfoNeededButFound, std::move(frame->finding.path), words);
+    void refuse(Frame *frame, Frame *owner) {
+        const bool isIe = frame->place.kind == Place::slot || frame->place.kind == Place::element;
+        if (isIe && !hasStopped_)
+            stop_ = frame->at;
+        hasStopped_ = hasStopped_ || isIe;
+        hand_up(frame, owner);
     }
 
-    void leave_out(const Outcome &outcome, Frame *frame, Frame *owner) {
-        if (outcome.reason == Reason::conditionUnmet) // its owner ends without it
+    void leave_out(Reason reason, Frame *frame, Frame *owner) {
+        if (reason == Reason::conditionUnmet) // its owner ends without it
             return hand_up(frame, owner);
         // Where not even a tag is left, nothing stands.
-        if (outcome.reason == Reason::noBytes || outcome.reason == Reason::otherTag ||
-            length_ - frame->at < tagSize)
-            return;
-        if (frame->finding)
-            leftOut_.push_back({frame->at, slot_of(frame->place), std::move(frame->finding)});
+        const bool stoodThere = reason != Reason::noBytes && reason != Reason::otherTag &&
+                                length_ - frame->at >= tagSize;
+        if (stoodThere)
+            leftOut_.push_back({frame->at, slot_of(frame->place), take_finding(frame)});
     }
 
     void add_left_out(std::uint32_t stop, std::vector<Finding> *findings) const;
@@ -165,21 +170,26 @@ private:
 };
 
 // What the judge found, in words and at the place where people look for it.
-Finding Listener::finding(Reason reason, std::uint32_t at, std::uint32_t number) const {
+Finding Listener::finding() const {
     const Frame &frame = frames_.back();
     const Frame &owner = frames_[frames_.size() > 1 ? frames_.size() - 2 : 0];
+    const std::uint32_t number = frame.number;
+    std::uint32_t at = frame.foundAt;
     TarnInfoWords words{};
     words.type = frame.type;
     words.slot = slot_of(frame.place);
     words.number = number;
     const auto found = [&](TarnInfoReason why) { return make_finding(at, why, path(), words); };
-    switch (reason) {
+    switch (frame.found) {
     case Reason::noBytes:
         words.slot = nullptr;
         return found(TarnInfoBytesEnd);
     case Reason::otherTag:
         words.found = number;
-        return found(TarnInfoWrongTag);
+        // A child that is called for was not merely expected.
+        return found(words.slot != nullptr && words.slot->condition != nullptr
+                         ? TarnInfoNeededButFound
+                         : TarnInfoWrongTag);
     case Reason::shortHeader:
         return found(TarnInfoHeaderCut);
     case Reason::otherWidth:
@@ -275,7 +285,7 @@ void Listener::conclude(const Outcome &outcome) {
         out_.verdict = TarnInfoRefused;
         out_.token = getToken;
         out_.consumed = stop_;
-        out_.foundFaults.push_back(std::move(frames_.front().finding));
+        out_.foundFaults.push_back(std::move(frames_.front().below));
         add_left_out(out_.foundFaults.front().offset, &out_.foundFaults);
         return;
     }
