@@ -1,37 +1,13 @@
 // How text is taken apart into messages.
 #include <gtest/gtest.h>
 
-#include "tarn/input.h"
-#include "tarn/text/text.h"
+#include "collector.h"
 
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
-
-class Collector final : public capture::Sink {
-public:
-    void message(const capture::Found &found) override {
-        messages.emplace_back(found.bytes.begin(), found.bytes.end());
-        lines.push_back(found.line);
-    }
-    void trouble(capture::Severity, const std::string &place, const std::string &what) override {
-        troubles.push_back((place.empty() ? "" : place + ": ") + what);
-    }
-
-    std::vector<Bytes> messages;
-    std::vector<std::uint64_t> lines;
-    std::vector<std::string> troubles;
-};
-
-Collector read(std::string_view content, tool::Form form = tool::Form::detect) {
-    capture::Source source(
-        capture::View{reinterpret_cast<const std::uint8_t *>(content.data()), content.size()});
-    Collector collector;
-    tool::InputOptions options;
-    options.form = form;
-    tool::read_messages(source, options, collector);
-    return collector;
-}
+using collector::Bytes;
+using collector::Collector;
+using collector::read;
 
 TEST(Text, TakesBytesHoweverTheyAreSet) {
     const struct {

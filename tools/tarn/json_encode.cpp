@@ -140,8 +140,10 @@ void JsonEncoder::unknown_name(const TarnInfoSlot *slots, std::uint32_t count, s
 // ---- Values ------------------------------------------------------------------------------------
 
 void JsonEncoder::append(std::uint32_t number, unsigned width) {
-    for (unsigned i = width; i-- != 0;)
-        bytes_.push_back(std::uint8_t(number >> 8 * i));
+    const std::size_t start = bytes_.size();
+    bytes_.resize(start + width);
+    for (unsigned i = width; i-- != 0; number >>= 8)
+        bytes_[start + i] = std::uint8_t(number);
 }
 
 // False where the value cannot be written.
@@ -315,13 +317,15 @@ void JsonEncoder::write_slots(const TarnInfoSlot *slots, std::uint32_t count,
     std::uint32_t likely = 0; // most objects have the order of the slots
     tree_->for_each(object, [&](const JsonNode &node) {
         const std::string_view key = tree_->key(node);
-        if (path_.empty() && is_about_message(key))
-            return;
         std::uint32_t at = likely;
-        for (std::uint32_t tried = 0; tried < count && key != slots[at].name; ++tried)
+        std::uint32_t tried = 0;
+        for (; tried < count && key != slots[at].name; ++tried)
             at = at + 1 < count ? at + 1 : 0;
-        if (count == 0 || key != slots[at].name)
-            return unknown_name(slots, count, key, owner);
+        if (tried == count) {
+            if (!path_.empty() || !is_about_message(key))
+                unknown_name(slots, count, key, owner);
+            return;
+        }
         const In in(this, slots[at].name);
         if (given[at] != nullptr)
             fault("stands twice in one object");

@@ -1,6 +1,5 @@
 #include "tarn/json_tree.h"
 
-#include <algorithm>
 #include <cstring>
 #include <iterator>
 
@@ -195,9 +194,11 @@ bool JsonReader::refill() {
 }
 
 std::uint64_t JsonReader::line_here() {
-    if (start_ != nullptr)
-        lines_ += std::uint64_t(std::count(start_, at_, '\n'));
-    start_ = at_;
+    while (start_ != at_) {
+        const void *end = std::memchr(start_, '\n', std::size_t(at_ - start_));
+        lines_ += end != nullptr ? 1 : 0;
+        start_ = end != nullptr ? static_cast<const char *>(end) + 1 : at_;
+    }
     return lines_;
 }
 

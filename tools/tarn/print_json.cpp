@@ -15,7 +15,6 @@ public:
 
     void print(const Judged &judged, std::uint64_t, const std::string &) override {
         line_.clear();
-        line_ += '{';
         append_origin(judged);
         if (judged.verdict() == TarnInfoRefused)
             append_refused(judged);
@@ -29,17 +28,12 @@ public:
 
 private:
     void append_key(std::string_view key) {
-        if (line_.size() > 1)
-            line_ += ',';
-        if (isPretty_)
-            line_ += "\n  ";
-        line_ += '"';
+        line_ += isPretty_ ? ",\n  \"" : ",\"";
         line_ += key;
         line_ += isPretty_ ? "\": " : "\":";
     }
 
-    void append_end(std::string_view key, const capture::Endpoint &end) {
-        append_key(key);
+    void append_end(const capture::Endpoint &end) {
         if (end.family == 0) {
             line_ += "null";
             return;
@@ -51,9 +45,9 @@ private:
 
     void append_origin(const Judged &judged) {
         const capture::Found &found = judged.found();
-        append_key("packet");
+        line_ += isPretty_ ? "{\n  \"packet\": " : "{\"packet\":";
         append_number(found.packet, &line_);
-        append_key("time");
+        line_ += isPretty_ ? ",\n  \"time\": " : ",\"time\":";
         if (found.time) {
             line_ += '"';
             clock_.append(*found.time, &line_);
@@ -61,10 +55,11 @@ private:
         } else {
             line_ += "null";
         }
-        append_end("from", found.from);
-        append_end("to", found.to);
-        append_key("verdict");
-        line_ += '"';
+        line_ += isPretty_ ? ",\n  \"from\": " : ",\"from\":";
+        append_end(found.from);
+        line_ += isPretty_ ? ",\n  \"to\": " : ",\"to\":";
+        append_end(found.to);
+        line_ += isPretty_ ? ",\n  \"verdict\": \"" : ",\"verdict\":\"";
         line_ += tarnInfoVerdictWord(judged.verdict());
         line_ += '"';
     }

@@ -51,32 +51,31 @@ unsigned hex_digit(char c) {
 }
 
 std::string append_hex(std::string_view text, Bytes *bytes) {
+    const std::size_t before = bytes->size();
+    bytes->resize(before + text.size() / 2);
+    std::uint8_t *to = bytes->data() + before;
+    std::string wrong;
     std::size_t start = 0; // of the run of digits
-    for (std::size_t at = 0; at < text.size();) {
+    for (std::size_t at = 0; at < text.size() && wrong.empty();) {
         const std::uint8_t high = kind_of(text[at]);
-        if (high == separator) {
+        const std::uint8_t low = at + 1 < text.size() ? kind_of(text[at + 1]) : separator;
+        if ((high | low) < separator) {
+            *to++ = std::uint8_t(high << 4 | low);
+            at += 2;
+        } else if (high == separator) {
             start = ++at;
-            continue;
-        }
-        const bool isPrefix =
-            at == start && text[at] == '0' && at + 1 < text.size() && (text[at + 1] | 0x20) == 'x';
-        if (isPrefix) {
+        } else if (at == start && text[at] == '0' && low == other && (text[at + 1] | 0x20) == 'x') {
             start = at += 2;
             if (at == text.size() || kind_of(text[at]) == separator)
-                return "0x without digits behind it";
-            continue;
+                wrong = "0x without digits behind it";
+        } else if (high == other || low == other) {
+            wrong = quoted(text[high == other ? at : at + 1]) + " is no hex digit";
+        } else {
+            wrong = odd_run(text.substr(start));
         }
-        if (high == other)
-            return quoted(text[at]) + " is no hex digit";
-        const std::uint8_t low = at + 1 < text.size() ? kind_of(text[at + 1]) : separator;
-        if (low == other)
-            return quoted(text[at + 1]) + " is no hex digit";
-        if (low == separator)
-            return odd_run(text.substr(start));
-        bytes->push_back(std::uint8_t(high << 4 | low));
-        at += 2;
     }
-    return {};
+    bytes->resize(std::size_t(to - bytes->data()));
+    return wrong;
 }
 
 // ---- Strings -----------------------------------------------------------------------------------

@@ -142,15 +142,18 @@ void Reader::take(std::string_view text, bool isIndented) {
         begin(Form::dump);
         return dump_line(offset->data);
     }
-    text = without_comment(text);
-    const bool isString = text.find_first_of("\"'\\") != text.npos;
     if (!continues)
-        begin(isString ? Form::strings : Form::hex);
+        begin(Form::plain);
     append(text);
 }
 
 void Reader::append(std::string_view text) {
-    std::string wrong;
+    const std::size_t before = bytes_.size();
+    std::string wrong = append_hex(text, &bytes_);
+    if (wrong.empty()) // as most lines are
+        return;
+    bytes_.resize(before);
+    text = without_comment(text);
     const bool hasQuotes = text.find_first_of("\"'") != text.npos;
     if (text.find('\\') != text.npos) {
         wrong = append_strings(text, &bytes_);

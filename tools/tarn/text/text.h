@@ -25,7 +25,7 @@ public:
     std::uint64_t messages() const { return messages_; }
 
 private:
-    enum class Form { none, hex, strings, dump, skipped, skippedDump };
+    enum class Form { none, plain, dump, skipped, skippedDump };
 
     bool is_skipped() const { return form_ == Form::skipped || form_ == Form::skippedDump; }
 
