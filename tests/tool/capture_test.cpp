@@ -49,8 +49,8 @@ std::string tcp(std::uint32_t sequence, const std::string &data, char flags = 0x
 
 std::string ip4(int protocol, const std::string &data, bool up = true, int fragment = 0) {
     return "\x45\0"s + big(20 + data.size(), 2) + big(0, 2) + big(unsigned(fragment), 2) + "\x40"s +
-           char(protocol) + big(0, 2) + (up ? "\x0a\0\0\x01\x0a\0\0\x02"s : "\x0a\0\0\x02\x0a\0\0\x01"s) +
-           data;
+           char(protocol) + big(0, 2) +
+           (up ? "\x0a\0\0\x01\x0a\0\0\x02"s : "\x0a\0\0\x02\x0a\0\0\x01"s) + data;
 }
 
 std::string ip6(int protocol, const std::string &data) {
@@ -66,8 +66,8 @@ std::string ethernet(const std::string &data, unsigned type = 0x0800) {
 // ---- Files -------------------------------------------------------------------------------------
 
 std::string pcap(unsigned link, const std::vector<std::string> &packets) {
-    std::string file = "\xd4\xc3\xb2\xa1\x02\0\x04\0"s + little(0, 8) + little(65535, 4) +
-                       little(link, 4);
+    std::string file =
+        "\xd4\xc3\xb2\xa1\x02\0\x04\0"s + little(0, 8) + little(65535, 4) + little(link, 4);
     for (const std::string &packet : packets)
         file += little(1700000000, 4) + little(123456, 4) + little(packet.size(), 4) +
                 little(packet.size(), 4) + packet;
@@ -100,8 +100,11 @@ TEST(Capture, FindsMessagesBelowEveryLink) {
         std::size_t messages;
     } cases[] = {
         {1, ethernet(packet + "padding"), 1},
-        {1, ethernet("\x81\0\0\x05\x88\xa8\0\x07\x08\0"s.substr(2, 2) + big(0x88A8, 2) +
-                         big(7, 2) + big(0x0800, 2) + packet, 0x8100), 1},
+        {1,
+         ethernet("\x81\0\0\x05\x88\xa8\0\x07\x08\0"s.substr(2, 2) + big(0x88A8, 2) + big(7, 2) +
+                      big(0x0800, 2) + packet,
+                  0x8100),
+         1},
         {1, ethernet(ip6(132, sctp(reset)), 0x86DD), 1},
         {1, ethernet(packet, 0x0806), 0},
         {113, std::string(14, 'c') + big(0x0800, 2) + packet, 1},
@@ -163,8 +166,9 @@ TEST(Capture, ReadsBothByteOrdersAndAnyUnit) {
     EXPECT_EQ(read(file + packet(3, 0) + packet(1, 0)).troubles,
               std::vector<std::string>{"packet 1: its interface 3 is not described"});
     const std::string simple = block(3, little(reset.size(), 4) + reset);
-    EXPECT_EQ(read(block(0x0A0D0D0A, section) + interface(147, "") + simple + simple)
-                  .messages.size(), 2U);
+    EXPECT_EQ(
+        read(block(0x0A0D0D0A, section) + interface(147, "") + simple + simple).messages.size(),
+        2U);
     const std::string bigEndian = "\xa1\xb2\x3c\x4d"s + big(0x00020004, 4) + big(0, 12) +
                                   big(147, 4) + big(5, 4) + big(7, 4) + big(reset.size(), 4) +
                                   big(reset.size(), 4) + reset;
@@ -200,10 +204,10 @@ TEST(Tcp, IsPutTogetherAgain) {
     const std::vector<std::vector<Piece>> cases = {
         {{0, 69}},
         {{0, 19}, {19, 50}, {50, 69}},
-        {{0, 4}, {4, 19}, {19, 20}, {20, 69}},    // lengths apart from their messages
-        {{40, 69}, {10, 40}, {0, 10}},            // out of order
-        {{0, 30}, {0, 30}, {10, 50}, {30, 69}},   // sent again, overlapping
-        {{0, 10}, {20, 40}, {30, 69}, {10, 25}},  //
+        {{0, 4}, {4, 19}, {19, 20}, {20, 69}},   // lengths apart from their messages
+        {{40, 69}, {10, 40}, {0, 10}},           // out of order
+        {{0, 30}, {0, 30}, {10, 50}, {30, 69}},  // sent again, overlapping
+        {{0, 10}, {20, 40}, {30, 69}, {10, 25}}, //
     };
     for (const std::vector<Piece> &pieces : cases) {
         const Collector found = read_stream(pieces);
@@ -223,8 +227,9 @@ TEST(Tcp, GoesOnBehindGaps) {
               "packet 3: 5 bytes of a TCP stream are missing: it goes on behind them");
     EXPECT_EQ(read_stream({{5, 69}}, false).messages, bytes_of({detect, reset}));
     const Collector cut = read_stream({{0, 40}});
-    EXPECT_EQ(cut.troubles, std::vector<std::string>{"packet 2: a TCP stream ends within a message, "
-                                                     "of which 21 bytes are there"});
+    EXPECT_EQ(cut.troubles,
+              std::vector<std::string>{"packet 2: a TCP stream ends within a message, "
+                                       "of which 21 bytes are there"});
     // What the other end has acknowledged is not waited for.
     std::vector<std::string> packets = {ip4(6, tcp(0, framed(reset)))};
     for (std::uint32_t at = 100; at < 100 + 4 * 19; at += 19)

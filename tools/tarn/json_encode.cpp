@@ -140,10 +140,8 @@ void JsonEncoder::unknown_name(const TarnInfoSlot *slots, std::uint32_t count, s
 // ---- Values ------------------------------------------------------------------------------------
 
 void JsonEncoder::append(std::uint32_t number, unsigned width) {
-    const std::size_t start = bytes_.size();
-    bytes_.resize(start + width);
-    for (unsigned i = width; i-- != 0; number >>= 8)
-        bytes_[start + i] = std::uint8_t(number);
+    for (unsigned i = width; i-- != 0;)
+        bytes_.push_back(std::uint8_t(number >> 8 * i));
 }
 
 // False where the value cannot be written.
@@ -254,8 +252,8 @@ bool JsonEncoder::write_value(const TarnInfoType &type, const JsonNode &node) {
 // With tag and length. False where nothing was written.
 bool JsonEncoder::write_ie(const TarnInfoType &type, const JsonNode &node) {
     const std::size_t start = bytes_.size();
-    append(type.tag, 2);
-    append(0, 4);
+    const std::uint8_t header[6] = {std::uint8_t(type.tag >> 8), std::uint8_t(type.tag)};
+    bytes_.insert(bytes_.end(), std::begin(header), std::end(header));
     const std::size_t value = bytes_.size();
     if (!write_value(type, node)) {
         bytes_.resize(start);

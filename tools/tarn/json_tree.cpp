@@ -49,13 +49,13 @@ public:
     bool number_float(number_float_t, const string_t &written) {
         return add_text(JsonKind::otherNumber, written);
     }
-    bool string(string_t &text) { return add_text(JsonKind::string, text); }
+    bool string(std::string_view text) { return add_text(JsonKind::string, text); }
     bool binary(binary_t &) { return false; }
     bool start_object(std::size_t) { return start(JsonKind::object); }
     bool start_array(std::size_t) { return start(JsonKind::array); }
     bool end_object() { return end(); }
     bool end_array() { return end(); }
-    bool key(string_t &text) {
+    bool key(std::string_view text) {
         keyLength_ = std::uint32_t(text.size());
         return keep(text, &key_);
     }
@@ -147,6 +147,113 @@ private:
     std::uint32_t key_ = 0;
     std::uint32_t keyLength_ = 0;
     std::string what_;
+};
+
+// ---- Plain lines
+// ---------------------------------------------------------------------------------
+
+// Reads what nearly all lines are, and as fast as they come: an object of plain strings and whole
+// numbers, all of it at hand. Anything else, wrong or not, it leaves to the parser.
+class PlainLine {
+public:
+    PlainLine(const char *at, const char *end, JsonBuilder *builder)
+        : at_(at), end_(end), builder_(*builder) {}
+
+    // Where the object ends, or null.
+    const char *run() { return value(0) ? at_ : nullptr; }
+
+private:
+    static bool is_plain(char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; }
+
+    bool take(char c) {
+        if (at_ == end_ || *at_ != c)
+            return false;
+        ++at_;
+        return true;
+    }
+
+    void skip_blanks() {
+        while (at_ != end_ && *at_ == ' ')
+            ++at_;
+    }
+
+    bool text(std::string_view *found) {
+        if (!take('"'))
+            return false;
+        const char *start = at_;
+        while (at_ != end_ && is_plain(*at_))
+            ++at_;
+        *found = {start, std::size_t(at_ - start)};
+        return take('"');
+    }
+
+    bool number() {
+        constexpr int mostDigits = 15;
+        const char *start = at_;
+        std::uint64_t number = 0;
+        for (; at_ != end_ && *at_ >= '0' && *at_ <= '9'; ++at_)
+            number = number * 10 + std::uint64_t(*at_ - '0');
+        const auto digits = at_ - start;
+        const bool isEnded = at_ != end_ && (*at_ == ',' || *at_ == '}' || *at_ == ']');
+        return digits != 0 && digits <= mostDigits && (digits == 1 || *start != '0') && isEnded &&
+               builder_.number_unsigned(number);
+    }
+
+    bool null() {
+        constexpr std::string_view word = "null";
+        if (std::size_t(end_ - at_) < word.size() || std::memcmp(at_, word.data(), 4) != 0)
+            return false;
+        at_ += word.size();
+        return builder_.null();
+    }
+
+    bool value(std::size_t depth) {
+        if (at_ == end_ || depth > deepest)
+            return false;
+        std::string_view found;
+        switch (*at_) {
+        case '{':
+        case '[':
+            return container(depth);
+        case '"':
+            return text(&found) && builder_.string(found);
+        case 'n':
+            return null();
+        default:
+            return number();
+        }
+    }
+
+    bool member(bool isObject, std::size_t depth) {
+        std::string_view name;
+        skip_blanks();
+        if (isObject) {
+            if (!text(&name) || !take(':') || !builder_.key(name))
+                return false;
+            skip_blanks();
+        }
+        return value(depth + 1);
+    }
+
+    bool container(std::size_t depth) {
+        const bool isObject = *at_++ == '{';
+        const char close = isObject ? '}' : ']';
+        if (!(isObject ? builder_.start_object(0) : builder_.start_array(0)))
+            return false;
+        if (take(close))
+            return builder_.end_object();
+        while (member(isObject, depth)) {
+            if (take(close))
+                return builder_.end_object();
+            if (!take(','))
+                return false;
+        }
+        return false;
+    }
+
+    const char *at_;
+    const char *end_;
+    JsonBuilder &builder_;
 };
 
 // ---- Reading -----------------------------------------------------------------------------------
@@ -261,8 +368,20 @@ JsonReader::Step JsonReader::next(JsonTree *tree) {
     }
 }
 
+bool JsonReader::parse_plain(JsonTree *tree) {
+    JsonBuilder builder(tree);
+    const char *end = PlainLine(at_, end_, &builder).run();
+    if (end != nullptr)
+        at_ = end;
+    return end != nullptr;
+}
+
 bool JsonReader::parse(JsonTree *tree) {
     line_ = line_here();
+    if (parse_plain(tree)) {
+        needsComma_ = isInArray_;
+        return true;
+    }
     JsonBuilder builder(tree);
     constexpr bool isAll = false; // other values may follow
     if (nlohmann::json::sax_parse(JsonBytes(this), JsonBytes(this), &builder,

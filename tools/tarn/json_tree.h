@@ -77,6 +77,7 @@ private:
     void go_to_next_object();
     bool skip_line();
     bool parse(JsonTree *tree);
+    bool parse_plain(JsonTree *tree);
 
     capture::Source &source_;
     const char *start_ = nullptr; // of what lines were counted up to
