@@ -272,6 +272,47 @@ void write_calls(const files::path &folder) {
     }
 }
 
+// Each message as the tool's forms of input have it, and captures.
+void write_input(const files::path &folder, const std::vector<Bytes> &messages,
+                 const files::path &captures) {
+    constexpr std::uint8_t found = 0;
+    constexpr std::uint8_t text = 1;
+    Corpus corpus(folder, "input");
+    for (const auto &entry : files::directory_iterator(captures)) {
+        std::ifstream file(entry.path(), std::ios::binary);
+        corpus.add({found}, {std::istreambuf_iterator<char>(file), {}});
+    }
+    for (const Bytes &message : messages) {
+        const std::size_t size = message.size();
+        corpus.add({found, 0, 0, std::uint8_t(size >> 8), std::uint8_t(size)}, message);
+        std::string dump = "0000  ";
+        std::string escapes;
+        for (const std::uint8_t byte : message) {
+            char piece[8];
+            std::snprintf(piece, sizeof piece, "%02x ", byte);
+            dump += piece;
+            std::snprintf(piece, sizeof piece, "\\x%02x", byte);
+            escapes += piece;
+        }
+        corpus.add({text}, Bytes(dump.begin(), dump.end()));
+        corpus.add({text}, Bytes(escapes.begin(), escapes.end()));
+    }
+}
+
+// Messages with nothing in them that can be said without knowing the rows: the fuzzer's dictionary
+// and the parser's own words lead on from there.
+void write_json(const files::path &folder) {
+    Corpus corpus(folder, "json");
+    for (const protocol::Message *type : protocol::messages()) {
+        std::string line = std::string("{\"message\":\"") + type->name + "\"";
+        for (const protocol::Slot &slot : type->slots)
+            if (&slot != &type->slots.front())
+                line += std::string(",\"") + slot.name + "\":1";
+        line += "}\n";
+        corpus.add({}, Bytes(line.begin(), line.end()));
+    }
+}
+
 // The headers of every IE, with the lengths that its value may have, as libFuzzer's dictionaries
 // have them.
 void write_dictionary(const files::path &path) {
@@ -296,8 +337,9 @@ void write_dictionary(const files::path &path) {
 } // namespace
 
 int main(int count, char **arguments) {
-    if (count != 3) {
-        std::fprintf(stderr, "usage: %s CORPUS-FOLDER SAMPLE-FOLDER\n", arguments[0]);
+    if (count != 4) {
+        std::fprintf(stderr, "usage: %s CORPUS-FOLDER SAMPLE-FOLDER CAPTURE-FOLDER\n",
+                     arguments[0]);
         return 2;
     }
     const files::path folder = arguments[1];
@@ -306,6 +348,8 @@ int main(int count, char **arguments) {
     write_record(folder, messages);
     write_ie(folder);
     write_calls(folder);
+    write_input(folder, messages, arguments[3]);
+    write_json(folder);
     write_dictionary(folder / "dictionary");
     return 0;
 }

@@ -12,7 +12,7 @@ if [[ "${1:-}" =~ ^[0-9]+$ ]]; then
     seconds=$1
     shift
 fi
-[ $# -gt 0 ] || set -- decode record ie calls
+[ $# -gt 0 ] || set -- decode record ie calls input json
 
 cmake -S . -B $build -G Ninja -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \
     -DCMAKE_BUILD_TYPE=Debug -DCMAKE_C_FLAGS_DEBUG="-O1 -gline-tables-only" \
