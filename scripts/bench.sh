@@ -5,6 +5,7 @@
 #   scripts/bench.sh                   all of it
 #   scripts/bench.sh profile NAME      where an operation's instructions go, by function, e.g.
 #                                      "RabAssignmentRequest/decode/objects"
+#   scripts/bench.sh tool              the tool's messages a second, beside tshark
 #   scripts/bench.sh cpp               tarn.hpp beside the C calls that it stands for
 set -eu
 cd "$(dirname "$0")/.."
@@ -14,6 +15,10 @@ build=${TARN_BENCH_BUILD:-build/bench}
 mkdir -p build
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DTARN_BENCH=ON -DTARN_EXAMPLES=OFF \
     -DTARN_TESTS=OFF >"$build.log"
+if [ "${1:-}" = tool ]; then
+    cmake --build "$build" --target tarn_tool >>"$build.log"
+    exec bench/tool.sh "$build/tools/tarn/tarn"
+fi
 cmake --build "$build" --target tarn_time tarn_count tarn_linearity >>"$build.log"
 
 # count PROGRAM: runs it under callgrind, which leaves one dump for each of its measurements.
