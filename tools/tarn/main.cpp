@@ -230,7 +230,7 @@ int help(const CLI::App &app, const std::string &command) {
     });
     if (found == commands.end())
         return refuse(app, "no command '" + tool::printable(command) + "'" + nearest(app, command));
-    std::cout << (*found)->help();
+    std::cout << (*found)->help(app.get_name());
     return tool::exitOk;
 }
 
