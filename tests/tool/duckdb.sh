@@ -9,6 +9,6 @@ if ! command -v node >/dev/null || ! command -v npm >/dev/null; then
 fi
 mkdir -p "$folder"
 [ -d "$folder/node_modules/@duckdb/node-api" ] ||
-    npm install --prefix "$folder" --no-audit --no-fund --silent @duckdb/node-api@1.5 ||
+    npm install --prefix "$folder" --no-audit --no-fund --silent @duckdb/node-api ||
     echo "npm could not install it"
 exec node "$(dirname "$0")/duckdb.mjs" "$tool" "$folder" "$@"
