@@ -37,9 +37,9 @@ extern "C" {
 
 #pragma GCC visibility push(default)
 
-/* ---- Facts
- * --------------------------------------------------------------------------------------- The
- * protocol as data. Everything can be reached from the lists of types and of messages. */
+/* ---- Facts ----------------------------------------------------------------------------------- */
+
+/* The protocol as data. Everything can be reached from the lists of types and of messages. */
 
 typedef enum TarnInfoShape {
     TarnInfoNumber,        /* an unsigned integer */
@@ -165,9 +165,9 @@ const char *tarnInfoStepWords(TarnInfoStep step);
  * one that velSwFatalError was given, or "unknown". */
 const char *tarnInfoModuleWords(const char *module);
 
-/* ---- Messages of any type
- * ------------------------------------------------------------------------ The operations of
- * tarn_if_messages.h by message id. For an object the id is its own. */
+/* ---- Messages of any type -------------------------------------------------------------------- */
+
+/* The operations of tarn_if_messages.h by message id. For an object the id is its own. */
 
 /* tarnInfoNewMsg returns a new message that holds its MessageId, owned by the caller; null for an
  * unknown id. */
@@ -207,9 +207,10 @@ uint32_t tarnInfoIsValueValid(const TarnInfoType *type, const void *value);
 uint32_t tarnInfoIsCalledForInMsg(const TarnInfoSlot *slot, const TarnMsg *owner);
 uint32_t tarnInfoIsCalledForInIe(const TarnInfoSlot *slot, const TarnIe *owner);
 
-/* ---- Children
- * ------------------------------------------------------------------------------------ Walks what a
- * message or a composite IE holds, in list order, without marking anything as extracted:
+/* ---- Children -------------------------------------------------------------------------------- */
+
+/* Walks what a message or a composite IE holds, in list order, without marking anything as
+ * extracted:
  *
  *   TarnInfoWalk walk = tarnInfoWalkMsg(msg);
  *   TarnInfoChild child;
@@ -240,8 +241,7 @@ TarnInfoWalk tarnInfoWalkIe(const TarnIe *composite);
 /* tarnInfoNextChild sets *child and returns 1, or returns 0 behind the last one. */
 uint32_t tarnInfoNextChild(TarnInfoWalk *walk, TarnInfoChild *child);
 
-/* ---- Copies and comparisons
- * ---------------------------------------------------------------------- */
+/* ---- Copies and comparisons ------------------------------------------------------------------ */
 
 /* Each returns a copy with all that is below it, not marked as extracted, owned by the caller. */
 TarnMsg *tarnInfoCopyMsg(const TarnMsg *msg);
@@ -262,8 +262,7 @@ typedef void TarnInfoTellDifference(void *context, const TarnInfoDifference *dif
 uint32_t tarnInfoCompareMsgs(const TarnMsg *left, const TarnMsg *right,
                              TarnInfoTellDifference *tell, void *context);
 
-/* ---- Explaining
- * ---------------------------------------------------------------------------------- */
+/* ---- Explaining ------------------------------------------------------------------------------ */
 
 typedef enum TarnInfoVerdict {
     TarnInfoValid,   /* decodes, and its validator agrees */
@@ -339,9 +338,9 @@ typedef struct TarnInfoWords {
 uint32_t tarnInfoSentence(TarnInfoReason reason, const TarnInfoWords *words, char *text,
                           uint32_t size);
 
-/* ---- Judging in haste
- * ---------------------------------------------------------------------------- The verdict alone,
- * for programs that see very many messages: explain only what is not plain. */
+/* ---- Judging in haste ------------------------------------------------------------------------ */
+
+/* The verdict alone, for programs that see very many messages: explain only what is not plain. */
 
 typedef struct TarnInfoJudgement {
     TarnInfoVerdict verdict;
@@ -352,9 +351,9 @@ typedef struct TarnInfoJudgement {
 
 TarnInfoJudgement tarnInfoJudge(const uint8_t *bytes, uint32_t length);
 
-/* ---- Reading
- * ------------------------------------------------------------------------------------- Every part
- * of a message in wire order, straight from its bytes, without an object. */
+/* ---- Reading --------------------------------------------------------------------------------- */
+
+/* Every part of a message in wire order, straight from its bytes, without an object. */
 
 #define TarnInfoNoIndex UINT32_MAX
 
@@ -381,10 +380,10 @@ uint32_t tarnInfoReadBytes(const uint8_t *bytes, uint32_t length,
                            const TarnInfoJudgement *judgement, TarnInfoVisitPart *visit,
                            void *context);
 
-/* ---- Printing
- * ------------------------------------------------------------------------------------ To a sink of
- * the caller's: text arrives in pieces of some kilobytes at most, a small message in one piece; no
- * zero ends them. */
+/* ---- Printing -------------------------------------------------------------------------------- */
+
+/* To a sink of the caller's: text arrives in pieces of some kilobytes at most, a small message in
+ * one piece; no zero ends them. */
 
 typedef void TarnInfoSink(void *context, const char *text, uint32_t length);
 
