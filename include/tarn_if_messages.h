@@ -57,6 +57,10 @@
  * and fills in the members that both share: compare MessageId. Failure to unpack is told to
  * velSwTokenDebug (token 0xB4D9287C).
  *
+ * Build and Get ask nothing of the host but to hear their reports, and leave buffer and record as
+ * they were when they return 0. They read what they are given twice: it must not change meanwhile,
+ * and buffer and record must not overlap.
+ *
  * Fatal. Every pointer is required, but for TarnIsMMsgValid; a null one is reported, and the
  * operation fails.
  *

@@ -299,6 +299,17 @@ inline constexpr bool is_conditional(const AnySlot &slot) {
     return slot.presence >= Presence::conditional;
 }
 
+struct Members {
+    const Member *first;
+    const Member *last;
+    const Member *begin() const { return first; }
+    const Member *end() const { return last; }
+};
+inline Members members_of(const Type &record) {
+    const Member *first = catalogue.members + record.slots.first;
+    return {first, first + record.slots.count};
+}
+
 // What stands at a row's offset in a value or record.
 inline const void *at_offset(const void *owner, uint32_t offset) {
     return static_cast<const uint8_t *>(owner) + offset;

@@ -1,5 +1,7 @@
 #include "tarn_if_api/members.h"
 
+#include "tarn_if_internal_funcs/writing.h"
+
 namespace tarn {
 
 namespace {
@@ -30,14 +32,10 @@ TARN_INLINE uint32_t extract_by(Owner *owner, const void *value, uint32_t tag, C
 
 template <class Id>
 uint32_t append_value(VelDllHead *list, Id id, const void *value) {
-    const Type &type = type_of(id);
-    const bool ok = is_number(type.kind)       ? in_range(type, load_number(type.kind, value))
-                    : type.kind == Kind::bytes ? in_range(type, stored_count(value))
-                                               : value_is_valid(id, value);
-    if (!ok)
+    if (measure_ie(id, value) == 0)
         return 0;
     TarnIe *ie = create_head(id, TARN_CALLER(moduleApi));
-    copy_value(type, value_of(ie), value);
+    copy_value(type_of(id), value_of(ie), value);
     link_ie(list, ie, TARN_CALLER(moduleApi));
     return 1;
 }

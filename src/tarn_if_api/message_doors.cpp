@@ -3,6 +3,7 @@
 #include "tarn_if_api/members.h"
 #include "tarn_if_api/messages.h"
 #include "tarn_if_api/records.h"
+#include "tarn_if_internal_funcs/packing.h"
 
 using namespace tarn;
 

@@ -1,7 +1,6 @@
 #include "tarn_if_api/messages.h"
 
 #include "tarn_if_api/members.h"
-#include "tarn_if_internal_funcs/sizes.h"
 #include "tarn_if_internal_funcs/unpacking.h"
 #include "tarn_if_internal_funcs/validity.h"
 
@@ -16,13 +15,6 @@ TarnMsg *new_msg(MessageNumber id) {
 uint32_t msg_is_valid(const TarnMsg *msg, MessageNumber id) {
     return msg != nullptr && msg->messageId == id &&
            slots_are_valid(catalogue.messages[id].slots, &msg->ies, TARN_CALLER(moduleApi));
-}
-
-bool fits(const TarnMsg *msg, uint32_t size) {
-    if (ies_size(&msg->ies, TARN_CALLER(moduleApi)) <= size) [[likely]]
-        return true;
-    velSwFatalError("", moduleApi, __LINE__);
-    return false;
 }
 
 uint32_t unpack_new_msg(const uint8_t *buffer, uint32_t length, TarnMsg **msg) {

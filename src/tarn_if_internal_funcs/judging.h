@@ -100,6 +100,14 @@ private:
         return reason;
     }
 
+    // A child that does not even begin.
+    void fail(Place place, TypeId id, Reason reason, const uint8_t *at, uint32_t number,
+              Fate fate = Fate::refuses) {
+        listener_->enters(place, id, at);
+        listener_->finds(reason, at, number);
+        listener_->leaves({0, reason}, fate);
+    }
+
     Listener *listener_;
 };
 
@@ -153,17 +161,15 @@ template <class Listener>
 Reason Judge<Listener>::record(const Type &type, void *to, uint32_t length, Input *in) {
     const uint32_t available = in->left;
     Reason verdict = Reason::none;
-    for (uint32_t i = type.slots.first; i < type.slots.first + type.slots.count; ++i) {
-        const Member &member = catalogue.members[i];
+    for (const Member &member : members_of(type)) {
+        const Place place{Place::member, uint32_t(&member - catalogue.members)};
         const uint32_t used = available - in->left;
         if (used >= length) {
-            listener_->enters({Place::member, i}, member.type, in->at);
-            listener_->finds(Reason::usedUp, in->at, used);
-            listener_->leaves({0, Reason::usedUp}, Fate::refuses);
+            fail(place, member.type, Reason::usedUp, in->at, used);
             return Reason::child;
         }
-        const Reason reason = part({Place::member, i}, member.type,
-                                   to != nullptr ? at_offset(to, member.offset) : nullptr, in);
+        void *const field = to != nullptr ? at_offset(to, member.offset) : nullptr;
+        const Reason reason = part(place, member.type, field, in);
         if (!decodes(reason))
             return Reason::child;
         if (reason != Reason::none)
@@ -185,13 +191,11 @@ Reason Judge<Listener>::list(const Type &type, void *to, uint32_t length, Input 
     uint32_t count = 0;
     for (; start.left - in->left < length; ++count) {
         if (count == type.capacity) {
-            listener_->enters({Place::item, count}, type.array.item, in->at);
-            listener_->finds(Reason::tooManyItems, in->at, count);
-            listener_->leaves({0, Reason::tooManyItems}, Fate::refuses);
+            fail({Place::item, count}, type.array.item, Reason::tooManyItems, in->at, count);
             return Reason::tooManyItems;
         }
-        const Reason reason = part({Place::item, count}, type.array.item,
-                                   to != nullptr ? item_of(type, to, count) : nullptr, in);
+        void *const item = to != nullptr ? item_of(type, to, count) : nullptr;
+        const Reason reason = part({Place::item, count}, type.array.item, item, in);
         if (!decodes(reason)) {
             verdict = Reason::child;
             break;
@@ -340,10 +344,10 @@ Reason Judge<Listener>::end_before(const Slot *slot, const Slot *end, const uint
             (!is_conditional(*slot) || !condition_holds(slot->condition, NumbersInBytes{start})))
             continue;
         const bool isRefused = isMandatory || slot->rule == UnpackRule::dropUncalledRequireAtEnd;
-        listener_->enters({Place::slot, uint32_t(slot - catalogue.slots)}, slot->type, at);
-        const Reason reason = isMandatory ? find(Reason::noBytes, at, 0)
-                                          : find(Reason::conditionUnmet, at, slot->condition);
-        listener_->leaves({0, reason}, isRefused ? Fate::refuses : Fate::leftOut);
+        const Reason reason = isMandatory ? Reason::noBytes : Reason::conditionUnmet;
+        fail({Place::slot, uint32_t(slot - catalogue.slots)}, slot->type, reason, at,
+             isMandatory ? 0 : uint32_t(slot->condition),
+             isRefused ? Fate::refuses : Fate::leftOut);
         if (isRefused)
             return Reason::child;
         verdict = reason;

@@ -3,7 +3,7 @@
 #include "objects.h"
 #include "tarn_if_internal_funcs/sizes.h"
 #include "tarn_if_internal_funcs/slots.h"
-#include "tarn_if_internal_funcs/values.h"
+#include "tarn_if_internal_funcs/writing.h"
 
 namespace tarn {
 
@@ -33,48 +33,72 @@ TARN_INLINE uint32_t write_any_composite(Id id, const TarnIe *ie, Output out) {
                                   TARN_INLINE_LAMBDA { return write_composite(known, ie, out); });
 }
 
+// Built for speed, a value that is valid goes the short way. One that is not packs as well, as long
+// as it does not go beyond an array.
 template <class Id>
-TARN_INLINE uint32_t write_larger_primitive(Id id, const TarnIe *ie, Output out) {
-    if (builtForSpeed && type_of(id).kind == Kind::bytes)
-        return write_bytes_ie(id, value_of(ie), out);
-    uint32_t size = 0;
-    return write_tlv(id, value_of(ie), out, &size) ? size : 0;
+TARN_INLINE uint32_t write_primitive(Id id, const void *value, Output out) {
+    if constexpr (isConstant<Id>) {
+        const uint32_t size = measure_ie(id, value);
+        if (size != 0 && size <= out.left) [[likely]] {
+            put_ie(id, value, out.at);
+            return size;
+        }
+    }
+    Output rest = out;
+    return write_ie(id, value, &rest) ? out.left - rest.left : 0;
 }
 
-struct SlotWriter {
-    Output out;
+template <class AnySlot>
+TARN_INLINE bool write_child(const AnySlot &slot, const TarnIe *ie, Output *out) {
+    const uint32_t size = by_kind<is_primitive>(
+        slot.type,
+        [&](auto primitive)
+            TARN_INLINE_LAMBDA { return write_primitive(primitive, value_of(ie), *out); },
+        [&](auto composite)
+            TARN_INLINE_LAMBDA { return write_any_composite(composite, ie, *out); });
+    out->skip(size);
+    return size != 0;
+}
 
-    template <class AnySlot>
-    TARN_INLINE bool visit(const AnySlot &slot, const TarnIe *ie) {
-        const uint32_t size = write_ie(slot, ie);
-        out.skip(size);
-        return size != 0;
+const Slot *slot_of(const SlotTable &table, uint32_t tag) {
+    for (const Slot *slot = slots_begin(table); slot != slots_end(table); ++slot)
+        if (slot->type == tag)
+            return slot;
+    return nullptr;
+}
+
+bool write_in_any_order(const SlotTable &table, const VelDllHead *list, const TarnIe *ie,
+                        Caller caller, Output *out) {
+    for (; ie != nullptr; ie = next_ie(list, ie, caller)) {
+        const Slot *slot = slot_of(table, ie->tag);
+        if (slot == nullptr || !write_child(*slot, ie, out))
+            return false;
     }
+    return true;
+}
 
-private:
-    // Returns the size written, or 0 on failure.
-    template <class AnySlot>
-    TARN_INLINE uint32_t write_ie(const AnySlot &slot, const TarnIe *ie) {
-        if (is_number(slot.kind))
-            return write_number_ie(slot.kind, slot.type, load_number(slot.kind, value_of(ie)), out);
-        return by_kind<is_primitive>(
-            slot.type,
-            [&](auto primitive)
-                TARN_INLINE_LAMBDA { return write_larger_primitive(primitive, ie, out); },
-            [&](auto composite)
-                TARN_INLINE_LAMBDA { return write_any_composite(composite, ie, out); });
-    }
-};
-
-// Writes the IEs of a list in list order, each of which must have a slot, and advances `out` by
-// what was written; false at the first that has none or cannot be written.
+// Writes the IEs of a list in list order, each of which must have a slot, and moves `out` behind
+// what was written; false at the first that has none or cannot be written. IEs that stand in the
+// order of constant slots, each at most once, need no search.
 template <class Owner>
 TARN_SHARED bool write_slots(const Owner &owner, const VelDllHead *list, Caller caller,
                              Output *out) {
-    SlotWriter writer{*out};
-    const TarnIe *stray = visit_ies(owner, list, caller, &writer);
-    *out = writer.out;
-    return stray == nullptr;
+    const TarnIe *ie = first_ie(list, caller);
+    if constexpr (isConstant<Owner>) {
+        Output rest = *out; // whose address nobody else knows
+        const bool ok = each_slot(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
+            if (ie == nullptr || ie->tag != slot.type)
+                return true;
+            if (!write_child(slot, ie, &rest))
+                return false;
+            ie = next_ie(list, ie, caller);
+            return true;
+        });
+        *out = rest;
+        if (!ok || ie == nullptr)
+            return ok;
+    }
+    return write_in_any_order(slots_of(owner), list, ie, caller, out);
 }
 
 template <class Id>
@@ -100,21 +124,43 @@ TARN_INLINE bool write_children(Id id, const VelDllHead *children, Output *out) 
         [&](auto list) TARN_INLINE_LAMBDA { return write_elements(list, children, out); });
 }
 
+// What is too long to be written aside, does not fit or cannot be packed.
+[[gnu::noinline]] uint32_t pack_measured(const TarnMsg *msg, uint8_t *buffer, uint32_t size,
+                                         const SlotTable &table) {
+    if (ies_size(&msg->ies, TARN_CALLER(moduleApi)) > size) {
+        velSwFatalError("", moduleApi, __LINE__);
+        return 0;
+    }
+    Output out{buffer, size};
+    return write_slots(table, &msg->ies, TARN_CALLER(moduleApi), &out);
+}
+
 } // namespace
 
 template <class Id>
-Writing write_msg(Id id, const VelDllHead *list, Output out) {
-    const uint32_t room = out.left;
-    const bool ok = write_slots(owner_of(id), list, TARN_CALLER(moduleApi), &out);
-    return {room - out.left, ok};
+uint32_t pack_msg(const TarnMsg *msg, uint8_t *buffer, uint32_t size, Id id) {
+    if (any_null(TARN_CALLER(moduleApi), msg, buffer))
+        return 0;
+#ifdef TARN_BUILT_FOR_SPEED
+    uint8_t aside[4096];
+    Output out{aside, sizeof aside};
+    if (write_slots(id, &msg->ies, TARN_CALLER(moduleApi), &out)) [[likely]] {
+        const uint32_t needed = uint32_t(out.at - aside);
+        if (needed <= size) [[likely]] {
+            memcpy(buffer, aside, needed);
+            return 1;
+        }
+    }
+#endif
+    return pack_measured(msg, buffer, size, slots_of(id));
 }
 
 #ifdef TARN_BUILT_FOR_SPEED
 #define MESSAGE(name_, ...)                                                                        \
-    template Writing write_msg(Constant<message##name_>, const VelDllHead *, Output);
+    template uint32_t pack_msg(const TarnMsg *, uint8_t *, uint32_t, Constant<message##name_>);
 #include "catalogue/messages.def"
 #else
-template Writing write_msg(MessageNumber, const VelDllHead *, Output);
+template uint32_t pack_msg(const TarnMsg *, uint8_t *, uint32_t, MessageNumber);
 #endif
 
 // The room is compared with the size by the object's own tag, while the tag written is that of the
@@ -128,11 +174,16 @@ uint32_t pack_primitive_ie(const TarnIe *ie, uint8_t *buffer, uint32_t available
     if (ie_size(ie) > available)
         return 0;
     const uint32_t size = value_size(id, value_of(ie));
-    if (size <= available - headerSize)
-        return write_tlv(id, value_of(ie), Output{buffer, available}, written);
-    store_header(buffer, id, size);
-    *written = headerSize;
-    return 0;
+    Output out{buffer, available};
+    bool ok = false;
+    if (size <= available - headerSize) {
+        ok = write_ie(id, value_of(ie), &out);
+    } else {
+        store_header(buffer, id, size);
+        out.skip(headerSize);
+    }
+    *written = available - out.left;
+    return ok;
 }
 
 // The length written here is the one by the object's own tag as well, and it is there even when a

@@ -8,15 +8,12 @@
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
-struct Writing {
-    uint32_t size; // up to the point of failure if there was one
-    bool ok;
-};
-
-// Writes a message's IEs in list order; fails at the first that has no slot in the message or
-// cannot be written.
+// Writes the message's IEs in list order; fails at the first that has no slot in the message or
+// cannot be written. A buffer that is too small is the caller's error: it is reported as fatal and
+// stays as it was. To know the size takes a walk of its own, so an engine built for speed writes a
+// message aside first, which does for all but long ones.
 template <class Id>
-Writing write_msg(Id id, const VelDllHead *list, Output out);
+uint32_t pack_msg(const TarnMsg *msg, uint8_t *buffer, uint32_t size, Id id);
 
 // The operations of the public interface. *written is set on success and on failure, but not when a
 // pointer is missing.

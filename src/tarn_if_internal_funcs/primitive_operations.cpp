@@ -10,18 +10,26 @@ uint32_t size_of_value(const void *value, TypeId id) {
     return any_null(TARN_CALLER(moduleInternal), value) ? 0 : value_size(id, value);
 }
 
-// Nothing is written unless all of it fits. A record or list then reports 0 bytes; a scalar or byte
-// string leaves the count alone, as on each of its failures.
+namespace {
+
+// A scalar or byte string leaves the caller's count alone when it fails; a record or list tells how
+// far it came.
+bool has_parts(TypeId id) {
+    return type_of(id).kind == Kind::record || type_of(id).kind == Kind::list;
+}
+
+} // namespace
+
+// Nothing is written unless all of it fits.
 uint32_t pack_value(const void *value, uint8_t *buffer, uint32_t available, uint32_t *written,
                     TypeId id) {
     if (any_null(TARN_CALLER(moduleInternal), value, buffer, written))
         return 0;
-    if (value_size(id, value) <= available)
-        return write_value(id, value, Output{buffer, available}, written);
-    const Kind kind = type_of(id).kind;
-    if (kind == Kind::record || kind == Kind::list)
-        *written = 0;
-    return 0;
+    Output out{buffer, available};
+    const bool ok = value_size(id, value) <= available && write_value(id, value, &out);
+    if (ok || has_parts(id))
+        *written = available - out.left;
+    return ok;
 }
 
 uint32_t unpack_value(void *value, uint32_t length, const uint8_t *buffer, uint32_t available,
@@ -30,9 +38,7 @@ uint32_t unpack_value(void *value, uint32_t length, const uint8_t *buffer, uint3
         return 0;
     Input in{buffer, available};
     const bool ok = decodes(judge_value(id, value, length, &in));
-    const Kind kind = type_of(id).kind;
-    // A scalar or byte string leaves the count alone when it fails.
-    if (ok || kind == Kind::record || kind == Kind::list)
+    if (ok || has_parts(id))
         *consumed = available - in.left;
     return ok;
 }
