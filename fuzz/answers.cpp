@@ -20,13 +20,6 @@
 namespace {
 
 using fuzz::Block;
-using protocol::Message;
-using protocol::Shape;
-using protocol::Slot;
-using protocol::Type;
-using samples::Amount;
-using samples::Bytes;
-using samples::Nodes;
 
 // ---- What is heard -----------------------------------------------------------------------------
 
@@ -158,7 +151,7 @@ void note_objects(const VelDllHead *list) {
 
 // ---- Choices -----------------------------------------------------------------------------------
 
-samples::Random dice(0);
+Random dice(0);
 
 bool once_in(std::uint32_t times) {
     return dice.between(1, times) == 1;
@@ -326,7 +319,7 @@ std::uint32_t append_message_id(const Message &type, void *msg, std::uint8_t id)
 // What has no slot there is linked with nothing checked.
 void append(const std::vector<Slot> &slots, const Message *type, void *owner, VelDllHead *list,
             const Nodes &nodes) {
-    for (const samples::Node &node : nodes) {
+    for (const Node &node : nodes) {
         const auto slot = std::find_if(slots.begin(), slots.end(), [&node](const Slot &candidate) {
             return candidate.type == node.type;
         });
@@ -383,7 +376,7 @@ void build(const Message &type, Block record, std::uint32_t needed) {
 
 // Into a record that is the same byte throughout, or that holds some other message.
 void get(const Message &type, const Block &input, const Nodes &former) {
-    samples::Record filled(type, once_in(2) ? 0 : once_in(2) ? 0xEE : 0xFF);
+    Record filled(type, once_in(2) ? 0 : once_in(2) ? 0xEE : 0xFF);
     if (once_in(3))
         samples::fill_record(type, former, &filled);
     Block record(filled.data(), type.recordSize);
@@ -508,14 +501,14 @@ void message_case() {
         return get(once_in(16) ? *any_of(protocol::messages()) : type, input, any_nodes(type));
     if (kind < 9)
         return assemble(type, nodes);
-    samples::Record record(type, 0x55);
+    Record record(type, 0x55);
     samples::fill_record(type, nodes, &record);
     build(type, Block(record.data(), type.recordSize), input.size());
 }
 
 void ie_case() {
     const Type &type = *any_of(protocol::types());
-    const samples::Node node = samples::make_node(type, any_amount(), dice);
+    const Node node = samples::make_node(type, any_amount(), dice);
     if (once_in(16))
         code_header();
     else if (!type.is_composite() && (!type.hasIe || once_in(2)))
@@ -541,7 +534,7 @@ int main(int count, char **arguments) {
     test_host::set_watch(hear_service);
     for (std::uint64_t i = number(1); i < number(1) + (count == 4 ? number(2) : 1); ++i) {
         test_host::reset();
-        dice = samples::Random(i);
+        dice = Random(i);
         once_in(4) ? ie_case() : message_case();
         note("blocks left", test_host::live_blocks());
         if ((i + 1 - number(1)) % group != 0)

@@ -10,10 +10,6 @@ namespace {
 
 using fuzz::Block;
 using fuzz::Choices;
-using protocol::Message;
-using protocol::Shape;
-using protocol::Slot;
-using protocol::Type;
 
 // Enough to nest deeper than any message does, few enough that no input takes long.
 constexpr std::size_t mostMessages = 4;
@@ -138,10 +134,10 @@ void Session::decode_message() {
     if (count(true) == mostMessages)
         return;
     const Message &type = any_message_type(&choices_);
-    const samples::Amount amount =
-        choices_.below(2) != 0 ? samples::Amount::slim : samples::Amount::least;
-    samples::Random random(choices_.byte());
-    const samples::Bytes bytes =
+    const Amount amount =
+        choices_.below(2) != 0 ? Amount::slim : Amount::least;
+    Random random(choices_.byte());
+    const Bytes bytes =
         samples::encode(samples::make_message(type, amount, random, choices_.below(4)));
     const Block buffer(bytes.data(), bytes.size());
     TarnMsg *msg = type.unpack(buffer.data(), buffer.size());
@@ -324,8 +320,8 @@ std::uint32_t any_room(Choices *choices, std::uint32_t needed) {
 }
 
 // Whether every IE, to any depth, has a slot in its owner's table.
-bool all_belong(const samples::Nodes &nodes, const std::vector<Slot> &slots) {
-    return std::all_of(nodes.begin(), nodes.end(), [&slots](const samples::Node &node) {
+bool all_belong(const Nodes &nodes, const std::vector<Slot> &slots) {
+    return std::all_of(nodes.begin(), nodes.end(), [&slots](const Node &node) {
         return std::any_of(slots.begin(), slots.end(),
                            [&node](const Slot &slot) { return slot.type == node.type; }) &&
                all_belong(node.children, node.type->slots);
@@ -348,7 +344,7 @@ void Session::pack_message() {
     const bool packed = pack() != 0;
     HOLDS(packed == all_belong(samples::nodes_of(*object->list()), type.slots));
     if (packed) {
-        const samples::Bytes bytes = samples::encode(samples::nodes_of(*object->list()));
+        const Bytes bytes = samples::encode(samples::nodes_of(*object->list()));
         HOLDS(Block(room.data(), needed) == Block(bytes.data(), bytes.size()));
         HOLDS(room.is_filled_with(0xEE, needed));
     }
@@ -376,7 +372,7 @@ void Session::judge() {
     if (object == nullptr)
         return;
     const std::size_t allocations = test_host::allocations();
-    const samples::Nodes nodes = samples::nodes_of(*object->list());
+    const Nodes nodes = samples::nodes_of(*object->list());
     if (object->is_message()) {
         const Message &other = any_message_type(&choices_);
         HOLDS((object->message->isValid(object->msg()) != 0) ==

@@ -10,7 +10,6 @@
 namespace {
 
 using fuzz::Block;
-using protocol::Message;
 
 // The two messages whose unpackers leave out conditional IEs that do not belong, and so may hand
 // out a message that its validator then refuses.
@@ -27,13 +26,13 @@ void check_work(std::size_t length, bool isRefused) {
 
 // Extracting finds every IE once, and appending what was found makes the same message.
 void check_copy(const Message &type, TarnMsg *msg, const Block &packed) {
-    const samples::Nodes nodes = samples::extract_all(msg, type);
+    const Nodes nodes = samples::extract_all(msg, type);
     HOLDS(nodes == samples::nodes_of(msg->ies));
     HOLDS(samples::extract_all(msg, type).empty());
     for (const TarnIe *ie : fuzz::members_of(&msg->ies))
         HOLDS(ie->extractHistory == 1);
     HOLDS(fuzz::pack(type, msg) == packed);
-    const samples::MsgPtr copy = samples::create_msg(type, nodes);
+    const MsgPtr copy = samples::create_msg(type, nodes);
     HOLDS(copy != nullptr && fuzz::pack(type, copy.get()) == packed);
     HOLDS(type.isValid(copy.get()) == type.isValid(msg));
     TarnResetMsgExtractHistory(msg);
@@ -54,7 +53,7 @@ void check_second_decoding(const Message &type, const Block &packed, bool valid)
     TarnDeleteMsg(msg);
 }
 
-void check_message(TarnMsg *msg, const Block &input, const samples::Nodes &nodes) {
+void check_message(TarnMsg *msg, const Block &input, const Nodes &nodes) {
     const Message *type = protocol::message_by_id(msg->messageId);
     HOLDS(type != nullptr && msg->messageId == TarnGetMessageId(input.data(), input.size()));
     const bool valid = type->isValid(msg) != 0;
@@ -68,7 +67,7 @@ void check_message(TarnMsg *msg, const Block &input, const samples::Nodes &nodes
 }
 
 // What the rules, read a second time, say of the input: the message's IEs, or nothing.
-std::optional<samples::Nodes> expected(const Block &input) {
+std::optional<Nodes> expected(const Block &input) {
     const Message *type = protocol::message_by_id(TarnGetMessageId(input.data(), input.size()));
     if (type == nullptr)
         return {};

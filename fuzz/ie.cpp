@@ -9,8 +9,6 @@ namespace {
 
 using fuzz::Block;
 using fuzz::Choices;
-using protocol::Shape;
-using protocol::Type;
 
 enum Mode { unpackIe, unpackValue, packAnything, modes };
 
@@ -131,7 +129,7 @@ struct Outcome {
 void check_composite(const Type &type, const TarnIe *ie, const Block &input, Outcome outcome) {
     model::Unpacked expected = model::unpack_composite(type, {input.data(), input.size()});
     HOLDS(outcome.unpacked == expected.ok && outcome.consumed == expected.consumed);
-    const samples::Node node{&type, {}, std::move(expected.children)};
+    const Node node{&type, {}, std::move(expected.children)};
     HOLDS(samples::node_of(ie) == node);
     HOLDS((type.isIeValid(ie) != 0) == model::is_valid(node));
 }

@@ -7,7 +7,6 @@
 namespace {
 
 using fuzz::Block;
-using protocol::Message;
 using Tokens = std::vector<test_host::DebugToken>;
 
 enum Mode { ownRecord, anyRecord, otherRecord, wideRecord, modes };
@@ -80,15 +79,15 @@ void check_own_record(const Block &input) {
 
 // Takes away what does not travel: of a code word only the low 16 bits do, while the rules that
 // decide on conditional IEs look at all of it.
-void trim_code_words(const std::vector<protocol::Slot> &slots, std::uint8_t *record) {
-    for (const protocol::Slot &slot : slots) {
-        const protocol::Type &type = *slot.type;
+void trim_code_words(const std::vector<Slot> &slots, std::uint8_t *record) {
+    for (const Slot &slot : slots) {
+        const Type &type = *slot.type;
         std::uint8_t *member = record + slot.recordOffset;
         if (type.width == 2 && type.valueSize == 4)
             *reinterpret_cast<std::uint32_t *>(member) &= 0xFFFF;
-        else if (type.shape == protocol::Shape::sequence)
+        else if (type.shape == Shape::sequence)
             trim_code_words(type.slots, member);
-        else if (type.shape == protocol::Shape::compositeList)
+        else if (type.shape == Shape::compositeList)
             for (unsigned i = 0; i < type.capacity; ++i)
                 trim_code_words(type.item->slots, member + type.itemsOffset + i * type.stride);
     }

@@ -12,9 +12,6 @@
 
 namespace {
 
-using protocol::Type;
-using samples::Amount;
-using samples::Bytes;
 namespace files = std::filesystem;
 
 // One target's corpus. Files are named by their number: what they hold tells the rest.
@@ -65,8 +62,8 @@ constexpr std::uint32_t decidingNumbers = 5;
 
 std::vector<Bytes> all_messages(const files::path &sampleFolder) {
     std::vector<Bytes> all;
-    samples::Random random(1);
-    for (const protocol::Message *type : protocol::messages())
+    Random random(1);
+    for (const Message *type : protocol::messages())
         for (const Amount amount : {Amount::least, Amount::slim, Amount::random, Amount::most})
             for (std::uint32_t deciding = 0; deciding < decidingNumbers; ++deciding) {
                 Bytes bytes =
@@ -86,10 +83,10 @@ std::vector<Bytes> all_messages(const files::path &sampleFolder) {
 }
 
 // Changes the numbers that decide on conditional IEs, and not these; whether there were any.
-bool change_deciding(samples::Nodes *nodes, std::uint32_t number) {
+bool change_deciding(Nodes *nodes, std::uint32_t number) {
     constexpr std::uint32_t deciding[] = {27, 100, 155}; // TrafficClass, Reset3GAP, RelocationType
     bool changed = false;
-    for (samples::Node &node : *nodes) {
+    for (Node &node : *nodes) {
         if (std::count(std::begin(deciding), std::end(deciding), node.type->tag) != 0) {
             samples::set_number(node, number);
             changed = true;
@@ -101,19 +98,19 @@ bool change_deciding(samples::Nodes *nodes, std::uint32_t number) {
 
 // The message as it should not be: ending behind each of its IEs, with each IE out of range, with
 // conditional IEs that are not called for.
-std::vector<Bytes> spoilt(const samples::Nodes &whole, samples::Random *random) {
+std::vector<Bytes> spoilt(const Nodes &whole, Random *random) {
     std::vector<Bytes> all;
     for (std::size_t i = 1; i < whole.size(); ++i) {
         all.push_back(
-            samples::encode(samples::Nodes(whole.begin(), whole.begin() + std::ptrdiff_t(i))));
-        samples::Nodes nodes = whole;
+            samples::encode(Nodes(whole.begin(), whole.begin() + std::ptrdiff_t(i))));
+        Nodes nodes = whole;
         if (auto invalid = samples::make_invalid(*nodes[i].type, *random)) {
             nodes[i] = *std::move(invalid);
             all.push_back(samples::encode(nodes));
         }
     }
     for (std::uint32_t number = 0; number < decidingNumbers; ++number) {
-        samples::Nodes nodes = whole;
+        Nodes nodes = whole;
         if (change_deciding(&nodes, number))
             all.push_back(samples::encode(nodes));
     }
@@ -124,10 +121,10 @@ void write_decode(const files::path &folder, const std::vector<Bytes> &messages)
     Corpus corpus(folder, "decode");
     for (const Bytes &message : messages)
         corpus.add({}, message);
-    samples::Random random(1);
-    for (const protocol::Message *type : protocol::messages())
+    Random random(1);
+    for (const Message *type : protocol::messages())
         for (std::uint32_t deciding = 0; deciding < decidingNumbers; ++deciding) {
-            const samples::Nodes whole =
+            const Nodes whole =
                 samples::make_message(*type, Amount::slim, random, deciding);
             for (const Bytes &bytes : spoilt(whole, &random))
                 corpus.add({}, bytes);
@@ -168,11 +165,11 @@ void set_length(Bytes *ie, std::size_t length) {
 // What a full list or a record becomes when it lies: one item more than the array holds, or a
 // length that ends behind the first member. Nothing for other shapes.
 Bytes lying(const Type &type, Bytes ie) {
-    if (type.shape == protocol::Shape::list) {
+    if (type.shape == Shape::list) {
         const std::size_t item = headerSize + length_at(ie, headerSize);
         ie.insert(ie.end(), ie.end() - std::ptrdiff_t(item), ie.end());
         set_length(&ie, ie.size() - headerSize);
-    } else if (type.shape == protocol::Shape::record) {
+    } else if (type.shape == Shape::record) {
         set_length(&ie, headerSize + length_at(ie, headerSize));
     } else {
         ie.clear();
@@ -183,7 +180,7 @@ Bytes lying(const Type &type, Bytes ie) {
 void write_ie(const files::path &folder) {
     enum : std::uint8_t { unpackIe, unpackValue, packAnything };
     Corpus corpus(folder, "ie");
-    samples::Random random(1);
+    Random random(1);
     std::uint8_t number = 0;
     const auto add = [&corpus, &number](const Type &type, const Bytes &ie) {
         if (ie.empty() || ie.size() > longEnough)
@@ -198,7 +195,7 @@ void write_ie(const files::path &folder) {
             add(*type, samples::encode(samples::make_node(*type, amount, random)));
         add(*type, lying(*type, samples::encode(samples::make_node(*type, Amount::most, random))));
         for (std::uint32_t deciding = 0; deciding < decidingNumbers; ++deciding) {
-            samples::Nodes nodes = {samples::make_node(*type, Amount::slim, random)};
+            Nodes nodes = {samples::make_node(*type, Amount::slim, random)};
             if (change_deciding(&nodes.front().children, deciding))
                 add(*type, samples::encode(nodes));
         }
@@ -317,7 +314,7 @@ void write_json(const files::path &folder) {
 // have them.
 void write_dictionary(const files::path &path) {
     std::ofstream file(path);
-    samples::Random random(1);
+    Random random(1);
     for (const Type *type : protocol::types()) {
         if (type->tag == 0)
             continue;

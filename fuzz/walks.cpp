@@ -6,9 +6,6 @@ namespace fuzz {
 
 namespace {
 
-using protocol::Shape;
-using protocol::Type;
-
 constexpr std::size_t tagSize = 2;
 constexpr std::size_t headerSize = 6;
 
@@ -55,7 +52,7 @@ bool is_same_run(const std::uint8_t *packed, const std::uint8_t *bytes, std::siz
 } // namespace
 
 const Type *type_of(std::uint32_t tag) {
-    constexpr std::size_t tags = 178; // 0 to 177
+    constexpr std::size_t tags = 256; // more than the protocol has
     static const std::array<const Type *, tags> all = [] {
         std::array<const Type *, tags> made{};
         for (const Type *type : protocol::types())
@@ -73,7 +70,7 @@ std::vector<TarnIe *> members_of(const VelDllHead *list) {
     return all;
 }
 
-Block pack(const protocol::Message &type, const TarnMsg *msg) {
+Block pack(const Message &type, const TarnMsg *msg) {
     Block packed(std::size_t(TarnSizeOfMsg(msg)));
     HOLDS(type.pack(msg, packed.data(), packed.size()) == 1);
     return packed;

@@ -3,9 +3,10 @@
 # function is never called or a line or branch of src/ never taken. What no test can reach is marked
 # where it stands, with the reason.
 #
-# The tests run with both forms of the engine: with the one built for speed in build/coverage, of
-# which every line must run, and with the compact one in build/coverage-compact, of which every branch
-# must be taken as well. In the former, a branch has a copy in each walk, where most are decided.
+# The library alone is built with counters, in both forms of the engine; the test programs are those
+# of build/release, which must be there. Of the form built for speed, in build/coverage, every line
+# must run, and of the compact one, in build/coverage-compact, every branch must be taken as well. In
+# the former, a branch has a copy in each walk, where most are decided.
 #   scripts/coverage.sh             builds, runs the tests, measures
 #   scripts/coverage.sh --measure   measures what was run last
 set -euo pipefail
@@ -13,20 +14,18 @@ cd "$(dirname "$0")/.."
 
 build=build/coverage
 compact=build/coverage-compact
-configure() {
-    cmake -G Ninja -S . -DCMAKE_C_COMPILER=gcc -DCMAKE_CXX_COMPILER=g++ -DCMAKE_BUILD_TYPE=Debug \
-        -DTARN_COVERAGE=ON -DTARN_TOOLS=OFF -DTARN_INFO=OFF "$@" >/dev/null
+run_tests() { # directory, CMake arguments
+    cmake -G Ninja -S . -B "$1" -DCMAKE_C_COMPILER=gcc -DCMAKE_CXX_COMPILER=g++ \
+        -DCMAKE_BUILD_TYPE=Debug -DTARN_COVERAGE=ON -DTARN_TOOLS=OFF -DTARN_INFO=OFF \
+        -DTARN_EXAMPLES=OFF -DTARN_TESTS=OFF "${@:2}" >/dev/null
+    find "$1" -name '*.gcda' -delete # what former runs counted
+    cmake --build "$1" --target tarn -- --quiet
+    LD_LIBRARY_PATH=$PWD/$1/src ctest --test-dir build/release -j "$(nproc)" \
+        --output-on-failure --progress -LE files
 }
 if [ "${1:-}" != --measure ]; then
-    configure -B $build
-    configure -B $compact -DTARN_COMPACT=ON -DTARN_EXAMPLES=OFF -DTARN_TESTS=OFF
-    find $build $compact -name '*.gcda' -delete # what former builds counted
-    cmake --build $build -- --quiet
-    cmake --build $compact --target tarn -- --quiet
-    find $build -name '*.gcda' -delete # what programs counted that run during the build
-    run_tests() { ctest --test-dir $build -j "$(nproc)" --output-on-failure --progress; }
-    run_tests
-    LD_LIBRARY_PATH=$PWD/$compact/src run_tests
+    run_tests $build
+    run_tests $compact -DTARN_COMPACT=ON
 fi
 
 # The functions that cmake/exports.txt lists and the lines of src/, each with the number of times

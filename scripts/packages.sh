@@ -1,30 +1,49 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing, as root or through sudo.
-#   scripts/packages.sh demo   what it takes to build the library and the tool
-#   scripts/packages.sh test   that, and all that the tests use
-#   scripts/packages.sh bench  that, and what the benchmarks compare with
+#   scripts/packages.sh [GROUP...]
+# Groups:
+#   demo      what it takes to build the library and the tool; taken where none is named
+#   test      that, and what the tests are built with
+#   bench     that, and what the benchmarks compare with
+# and, for single stages of scripts/test.sh: format, clang, tidy, coverage, cross, abi.
 set -euo pipefail
 
-demo=(cmake ninja-build g++ libcli11-dev nlohmann-json3-dev zlib1g-dev)
-tests=(clang clang-format clang-tidy libclang-rt-dev googletest binutils git python3
-    abigail-tools gcovr
-    g++-arm-linux-gnueabihf g++-s390x-linux-gnu qemu-user)
-bench=(libbenchmark-dev nanopb libnanopb-dev libprotobuf-c-dev protobuf-c-compiler
-    protobuf-compiler libprotobuf-dev capnproto libcapnp-dev flatbuffers-compiler libflatbuffers-dev
-    valgrind python3 libmimalloc2.0 libjemalloc2 libtcmalloc-minimal4)
+declare -A packages=(
+    [build]="cmake ninja-build g++"
+    [demo]="@build libcli11-dev nlohmann-json3-dev zlib1g-dev"
+    [test]="@demo libgtest-dev python3"
+    [format]="clang-format git"
+    [clang]="@build clang libclang-rt-dev"
+    [tidy]="@demo clang-tidy git"
+    [coverage]="gcovr"
+    [cross]="@build googletest g++-arm-linux-gnueabihf g++-s390x-linux-gnu qemu-user"
+    [abi]="@cross abigail-tools"
+    [bench]="@test libbenchmark-dev nanopb libnanopb-dev libprotobuf-c-dev protobuf-c-compiler
+        protobuf-compiler libprotobuf-dev capnproto libcapnp-dev flatbuffers-compiler
+        libflatbuffers-dev valgrind libmimalloc2.0 libjemalloc2 libtcmalloc-minimal4"
+)
 
-case "${1:-demo}" in
-demo) wanted=("${demo[@]}") ;;
-test) wanted=("${demo[@]}" "${tests[@]}") ;;
-bench) wanted=("${demo[@]}" "${tests[@]}" "${bench[@]}") ;;
-*)
-    sed -n '2,5s/^# \{0,1\}//p' "$0"
-    exit 2
-    ;;
-esac
+wanted=()
+want() { # group
+    local package
+    for package in ${packages[$1]}; do
+        if [ "${package#@}" != "$package" ]; then
+            want "${package#@}"
+        else
+            wanted+=("$package")
+        fi
+    done
+}
+for group in "${@:-demo}"; do
+    if [ -z "${packages[$group]:-}" ]; then
+        sed -n '2,/^set /s/^# \{0,1\}//p' "$0"
+        exit 2
+    fi
+    want "$group"
+done
 
 missing=()
-for package in "${wanted[@]}"; do
+for package in $(printf '%s\n' "${wanted[@]}" | sort -u); do
     if ! dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed'; then
         missing+=("$package")
     fi

@@ -14,26 +14,10 @@ constexpr Catalogue catalogue = making::make_catalogue();
 
 namespace {
 
-static_assert(making::slotCount == slotCapacity && making::memberCount == memberCapacity,
-              "the capacities in descriptors.h are the numbers of rows");
-
-// The rows' tags in their order; a tag given twice would overwrite a type without a word.
-constexpr int tagRows[] = {
-#define SCALAR(name_, tag_, ...)      tag_,
-#define BYTES(name_, tag_, ...)       tag_,
-#define RECORD(name_, tag_, ...)      tag_,
-#define LIST(name_, tag_, ...)        tag_,
-#define ITEM_SCALAR(name_, tag_, ...) tag_,
-#define ITEM_RECORD(name_, tag_, ...) tag_,
-#include "catalogue/primitive_ies.def"
-#define SEQUENCE(name_, tag_, ...)       tag_,
-#define COMPOSITE_LIST(name_, tag_, ...) tag_,
-#include "catalogue/composite_ies.def"
-};
-
+// A tag given twice would overwrite a type without a word.
 constexpr bool tags_are_unique() {
     bool seen[lastTag + 1] = {};
-    for (int tag : tagRows) {
+    for (const int tag : making::tagRows) {
         if (tag < 1 || tag > lastTag || seen[tag])
             return false;
         seen[tag] = true;
@@ -41,24 +25,6 @@ constexpr bool tags_are_unique() {
     return true;
 }
 static_assert(tags_are_unique());
-
-constexpr unsigned count_types(Kind kind, bool hasIe) {
-    unsigned count = 0;
-    for (const Type &type : catalogue.types)
-        count += type.kind == kind && (type.hasIe != 0) == hasIe;
-    return count;
-}
-
-constexpr unsigned count_numbers(bool hasIe) {
-    return count_types(Kind::number8, hasIe) + count_types(Kind::number16, hasIe) +
-           count_types(Kind::code, hasIe) + count_types(Kind::number32, hasIe);
-}
-static_assert(count_numbers(true) == 80 && count_numbers(false) == 5);
-static_assert(count_types(Kind::bytes, true) == 16);
-static_assert(count_types(Kind::record, true) == 11 && count_types(Kind::record, false) == 4);
-static_assert(count_types(Kind::list, true) == 8);
-static_assert(count_types(Kind::sequence, true) == 13);
-static_assert(count_types(Kind::compositeList, true) == 7);
 
 constexpr bool range_holds(const Type &type) {
     switch (type.kind) {
@@ -87,15 +53,13 @@ static_assert(ranges_hold());
 
 // Tables are walked by position, so mandatory slots must lead; eight bits are all a mask has.
 constexpr bool slots_hold(const SlotTable &table) {
-    unsigned optional = 0;
     for (unsigned i = 0; i < table.count; ++i) {
         const Slot &slot = catalogue.slots[table.first + i];
-        optional += slot.presence != Presence::mandatory;
-        if ((slot.presence == Presence::mandatory && optional != 0) ||
+        if ((slot.presence == Presence::mandatory) != (i < table.mandatory) ||
             !catalogue.types[slot.type].hasIe)
             return false;
     }
-    return optional <= 8;
+    return table.count - table.mandatory <= 8;
 }
 
 constexpr bool all_slots_hold() {
@@ -161,13 +125,10 @@ constexpr bool conditions_ask_code_words() {
 }
 static_assert(conditions_ask_code_words());
 
-constexpr bool messages_hold() {
-    unsigned count = 0;
-    for (const Message &message : catalogue.messages)
-        count += message.slots.count != 0;
-    return count == 38 && catalogue.messages[34].slots.count == 0;
-}
-static_assert(messages_hold());
+#define CONDITION_FOR_MSG(name_, predicate_, ie_, values_, ...)                                    \
+    static_assert((values_) <= UINT8_MAX, "numbers beyond the set's bits are outside");
+#define CONDITION_FOR_IE CONDITION_FOR_MSG
+#include "catalogue/conditions.def"
 
 constexpr bool tokens_are_distinct() {
     uint32_t tokens[3 * messageCount] = {0xB4D9287C}; // every Get's

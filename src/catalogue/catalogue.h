@@ -12,34 +12,6 @@
 
 namespace tarn::making {
 
-// ---- Where each owner's slots begin and end ----------------------------------------------------
-
-// A `begin` takes the number of the slot that follows it, an `end` the number after the last one.
-enum SlotNumber : int {
-#define SEQUENCE(name_, ...)                      begin##name_, rewindBegin##name_ = begin##name_ - 1,
-#define SEQUENCE_END(name_)                       end##name_, rewindEnd##name_ = end##name_ - 1,
-#define PRIMITIVE_SLOT(owner_, child_, ...)       slot##owner_##child_,
-#define COMPOSITE_SLOT(owner_, child_, ...)       slot##owner_##child_,
-#define SECOND_SLOT(owner_, child_, member_, ...) slot##owner_##member_,
-#include "catalogue/composite_ies.def"
-#define MESSAGE(name_, ...)                                                                        \
-    begin##name_, rewindBegin##name_ = begin##name_ - 1, slot##name_##MessageId,
-#define MESSAGE_END(name_)                  end##name_, rewindEnd##name_ = end##name_ - 1,
-#define PRIMITIVE_SLOT(owner_, child_, ...) slot##owner_##child_,
-#define COMPOSITE_SLOT(owner_, child_, ...) slot##owner_##child_,
-#include "catalogue/messages.def"
-    slotCount
-};
-
-enum MemberNumber : int {
-#define RECORD(name_, ...)      begin##name_, rewindBegin##name_ = begin##name_ - 1,
-#define ITEM_RECORD(name_, ...) begin##name_, rewindBegin##name_ = begin##name_ - 1,
-#define FREE_RECORD(name_, ...) begin##name_, rewindBegin##name_ = begin##name_ - 1,
-#define MEMBER(name_, member_)  member##name_##member_,
-#include "catalogue/primitive_ies.def"
-    memberCount
-};
-
 // Each owner's rule, for its slots.
 #define SEQUENCE(name_, tag_, rule_, term_) constexpr auto rule##name_ = UnpackRule::rule_;
 #include "catalogue/composite_ies.def"

@@ -13,6 +13,58 @@
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
+// ---- The rows' numbers -------------------------------------------------------------------------
+
+namespace making {
+
+constexpr int tagRows[] = {
+#define SCALAR(name_, tag_, ...)      tag_,
+#define BYTES(name_, tag_, ...)       tag_,
+#define RECORD(name_, tag_, ...)      tag_,
+#define LIST(name_, tag_, ...)        tag_,
+#define ITEM_SCALAR(name_, tag_, ...) tag_,
+#define ITEM_RECORD(name_, tag_, ...) tag_,
+#include "catalogue/primitive_ies.def"
+#define SEQUENCE(name_, tag_, ...)       tag_,
+#define COMPOSITE_LIST(name_, tag_, ...) tag_,
+#include "catalogue/composite_ies.def"
+};
+
+constexpr int largest_tag() {
+    int largest = 0;
+    for (const int tag : tagRows)
+        largest = tag > largest ? tag : largest;
+    return largest;
+}
+
+// A `begin` takes the number of the slot that follows it, an `end` the number after the last one.
+enum SlotNumber : int {
+#define SEQUENCE(name_, ...)                      begin##name_, rewindBegin##name_ = begin##name_ - 1,
+#define SEQUENCE_END(name_)                       end##name_, rewindEnd##name_ = end##name_ - 1,
+#define PRIMITIVE_SLOT(owner_, child_, ...)       slot##owner_##child_,
+#define COMPOSITE_SLOT(owner_, child_, ...)       slot##owner_##child_,
+#define SECOND_SLOT(owner_, child_, member_, ...) slot##owner_##member_,
+#include "catalogue/composite_ies.def"
+#define MESSAGE(name_, ...)                                                                        \
+    begin##name_, rewindBegin##name_ = begin##name_ - 1, slot##name_##MessageId,
+#define MESSAGE_END(name_)                  end##name_, rewindEnd##name_ = end##name_ - 1,
+#define PRIMITIVE_SLOT(owner_, child_, ...) slot##owner_##child_,
+#define COMPOSITE_SLOT(owner_, child_, ...) slot##owner_##child_,
+#include "catalogue/messages.def"
+    slotCount
+};
+
+enum MemberNumber : int {
+#define RECORD(name_, ...)      begin##name_, rewindBegin##name_ = begin##name_ - 1,
+#define ITEM_RECORD(name_, ...) begin##name_, rewindBegin##name_ = begin##name_ - 1,
+#define FREE_RECORD(name_, ...) begin##name_, rewindBegin##name_ = begin##name_ - 1,
+#define MEMBER(name_, member_)  member##name_##member_,
+#include "catalogue/primitive_ies.def"
+    memberCount
+};
+
+} // namespace making
+
 enum TypeId : uint8_t {
 #define SCALAR(name_, tag_, ...)      type##name_ = tag_,
 #define BYTES(name_, tag_, ...)       type##name_ = tag_,
@@ -24,7 +76,7 @@ enum TypeId : uint8_t {
 #define SEQUENCE(name_, tag_, ...)       type##name_ = tag_,
 #define COMPOSITE_LIST(name_, tag_, ...) type##name_ = tag_,
 #include "catalogue/composite_ies.def"
-    lastTag = 177,
+    lastTag = making::largest_tag(),
 #define SCALAR(...)
 #define FREE_SCALAR(name_, ...) type##name_,
 #define FREE_RECORD(name_, ...) type##name_,
@@ -161,8 +213,8 @@ struct Condition {
     bool counts;    // the answer for a number inside the set
 };
 
-inline constexpr unsigned slotCapacity = 265;
-inline constexpr unsigned memberCapacity = 35;
+inline constexpr unsigned slotCapacity = making::slotCount;
+inline constexpr unsigned memberCapacity = making::memberCount;
 
 struct Catalogue {
     Type types[typeCount];

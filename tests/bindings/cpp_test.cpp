@@ -1,7 +1,7 @@
 // The C++ header: every sample through records and through objects, and the traps that it removes.
 #include <gtest/gtest.h>
 
-#include "samples.h"
+#include "support/sample_files.h"
 #include "tarn.hpp"
 #include "tarn_host.h"
 

@@ -3,9 +3,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using samples::Node;
-using samples::Nodes;
-
 namespace {
 
 class ConditionTest : public LibraryTest {
@@ -17,7 +14,7 @@ protected:
         return predicate(samples::make_msg(samples::message("Reset"), nodes).get());
     }
     static std::uint32_t ask(ForIe predicate, const Nodes &nodes) {
-        const samples::IePtr ie = samples::make_ie(Node{&samples::type("RabParams"), {}, nodes});
+        const IePtr ie = samples::make_ie(Node{&samples::type("RabParams"), {}, nodes});
         return predicate(nullptr, reinterpret_cast<const TarnRabParamsIe *>(ie.get()));
     }
 
@@ -56,16 +53,6 @@ TEST_F(ConditionTest, OnlyDirectMembersAreLookedAt) {
     Node deep{&samples::type("RabParams"), {}, {samples::number_node("TrafficClass", 3)}};
     EXPECT_EQ(ask(TarnIfTrafficClassInteractiveForIe, {deep}), 0U);
     EXPECT_EQ(ask(TarnIfTrafficClassInteractiveForIe, deep.children), 1U);
-}
-
-TEST_F(ConditionTest, MissingOwnerIsFatal) {
-    for (ForMsg predicate :
-         {TarnIsInterRatRelocForMsg, TarnIsIntraRatRelocForMsg, TarnIsReset3GapNotPresentForMsg,
-          TarnIsUserPlaneConfigResultSuccessfulForMsg})
-        EXPECT_EQ(predicate(nullptr), 0U);
-    EXPECT_EQ(TarnIfTrafficClassInteractiveForIe(nullptr, nullptr), 0U);
-    EXPECT_EQ(TarnIfTrafficClassIsRealTimeForIe(nullptr, nullptr), 0U);
-    expect_fatals(6, "tarn_if_conditional_funcs");
 }
 
 } // namespace

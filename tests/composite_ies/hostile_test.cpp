@@ -8,14 +8,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using protocol::Type;
-using samples::Amount;
-using samples::Bytes;
-using samples::IePtr;
-using samples::Node;
-using samples::Nodes;
-using samples::Random;
-
 namespace {
 
 class HostileComposite : public LibraryTest {
@@ -96,9 +88,9 @@ TEST_F(HostileComposite, LengthThatLiesAtEachLevel) {
 }
 
 TEST_F(HostileComposite, ElementsOfAHeaderAlone) {
-    Bytes bytes = samples::from_hex("0028 00001770"); // 1000 elements of 6 bytes
+    Bytes bytes = from_hex("0028 00001770"); // 1000 elements of 6 bytes
     for (int i = 0; i < 1000; ++i) {
-        const Bytes one = samples::from_hex("0029 FFFFFFFF");
+        const Bytes one = from_hex("0029 FFFFFFFF");
         bytes.insert(bytes.end(), one.begin(), one.end());
     }
     const Outcome outcome = unpack(samples::type("SduFormatInfoParamList"), bytes);

@@ -4,15 +4,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using protocol::Slot;
-using protocol::Type;
-using samples::Amount;
-using samples::Bytes;
-using samples::IePtr;
-using samples::Node;
-using samples::Nodes;
-using samples::Random;
-
 namespace {
 
 class CompositeOperations : public LibraryTest {};
@@ -78,21 +69,6 @@ TEST_F(CompositeOperations, RoundTripThroughObjectsAndBytes) {
     }
 }
 
-TEST_F(CompositeOperations, InvalidValueIsNotAppended) {
-    Random random(2);
-    for (const Type *type : samples::sequences()) {
-        const IePtr ie(static_cast<TarnIe *>(type->create()));
-        for (const Slot &slot : type->slots) {
-            const auto invalid = samples::make_invalid(*slot.type, random);
-            if (slot.append == nullptr || !invalid)
-                continue;
-            EXPECT_EQ(slot.append(ie.get(), invalid->value.data()), 0U) << slot.name;
-            EXPECT_EQ(samples::children_of(ie.get())->first, nullptr) << slot.name;
-            EXPECT_EQ(test_host::live_blocks(), 1U) << slot.name;
-        }
-    }
-}
-
 TEST_F(CompositeOperations, SameValueIsAppendedAnyNumberOfTimes) {
     Random random(3);
     for (const Type *type : samples::sequences()) {
@@ -134,19 +110,6 @@ TEST_F(CompositeOperations, ExtractOfAbsentChild) {
     }
 }
 
-TEST_F(CompositeOperations, ExtractLooksAtDirectChildrenOnly) {
-    Random random(4);
-    const Type &rabDataInfo = samples::type("RabDataInfo");
-    const IePtr outer(static_cast<TarnIe *>(rabDataInfo.create()));
-    samples::link(samples::children_of(outer.get()),
-                  samples::make_ie(samples::make_node(rabDataInfo, Amount::slim, random)));
-    TarnRabId rabId = 77;
-    EXPECT_EQ(TarnExtractRabIdFromRabDataInfoIe(reinterpret_cast<TarnRabDataInfoIe *>(outer.get()),
-                                                &rabId),
-              0U);
-    EXPECT_EQ(rabId, 77);
-}
-
 TEST_F(CompositeOperations, TypeNamedTwiceIsExtractedInItsPlacesOrder) {
     TarnSduParamValueIe *ie = TarnNewSduParamValueIe();
     const IePtr owner(&ie->ie);
@@ -162,40 +125,6 @@ TEST_F(CompositeOperations, TypeNamedTwiceIsExtractedInItsPlacesOrder) {
     ratio.Mantissa = 99;
     EXPECT_EQ(TarnExtractBitErrRatioFromSduParamValueIe(ie, &ratio), 0U);
     EXPECT_EQ(ratio.Mantissa, 99);
-}
-
-TEST_F(CompositeOperations, MissingPointersAreFatal) {
-    Random random(5);
-    for (const Type *type : samples::composites()) {
-        SCOPED_TRACE(type->name);
-        const IePtr ie(static_cast<TarnIe *>(type->create()));
-        std::uint8_t buffer[8] = {};
-        std::uint32_t count = 77;
-        EXPECT_EQ(type->packIe(nullptr, buffer, 8, &count), 0U);
-        EXPECT_EQ(type->packIe(ie.get(), nullptr, 8, &count), 0U);
-        EXPECT_EQ(type->packIe(ie.get(), buffer, 8, nullptr), 0U);
-        EXPECT_EQ(type->unpackIe(nullptr, buffer, 8, &count), 0U);
-        EXPECT_EQ(type->unpackIe(ie.get(), nullptr, 8, &count), 0U);
-        EXPECT_EQ(type->unpackIe(ie.get(), nullptr, 0, &count), 0U);
-        EXPECT_EQ(type->unpackIe(ie.get(), buffer, 8, nullptr), 0U);
-        EXPECT_EQ(count, 77U);
-        expect_fatals(7, "tarn_if_internal_funcs");
-        EXPECT_EQ(type->packIe(nullptr, nullptr, 8, nullptr), 0U);
-        EXPECT_EQ(type->unpackIe(nullptr, nullptr, 8, nullptr), 0U);
-        expect_fatals(6, "tarn_if_internal_funcs");
-        EXPECT_EQ(type->isIeValid(nullptr), 0U); // alone may be asked of nothing
-        for (const Slot &slot : type->slots) {
-            if (slot.append == nullptr)
-                continue;
-            Bytes value(sizeof(void *) + slot.type->valueSize);
-            EXPECT_EQ(slot.append(nullptr, value.data()), 0U);
-            EXPECT_EQ(slot.append(ie.get(), nullptr), 0U);
-            EXPECT_EQ(slot.extract(nullptr, value.data()), 0U);
-            EXPECT_EQ(slot.extract(ie.get(), nullptr), 0U);
-            expect_fatals(4, "tarn_if_api");
-        }
-        EXPECT_EQ(samples::children_of(ie.get())->first, nullptr);
-    }
 }
 
 } // namespace

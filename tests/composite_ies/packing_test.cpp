@@ -7,14 +7,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using protocol::Type;
-using samples::Amount;
-using samples::Bytes;
-using samples::IePtr;
-using samples::Node;
-using samples::Nodes;
-using samples::Random;
-
 namespace {
 
 class CompositePacking : public LibraryTest {

@@ -6,14 +6,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using protocol::Type;
-using samples::Amount;
-using samples::Bytes;
-using samples::IePtr;
-using samples::Node;
-using samples::Nodes;
-using samples::Random;
-
 namespace {
 
 // The conditional children in table order, as a set.
@@ -169,10 +161,10 @@ TEST_F(RabParams, UnpackWhereOtherBytesFollow) {
 TEST_F(RabParams, UncalledChildThatDoesNotDecodeIsLeftForTheOwner) {
     const Node node = params(1, 0);
     Bytes bytes = samples::encode(node);
-    const Bytes broken = samples::from_hex("0030 00000003 000102"); // TransDelay of three bytes
+    const Bytes broken = from_hex("0030 00000003 000102"); // TransDelay of three bytes
     bytes.insert(bytes.end(), broken.begin(), broken.end());
     EXPECT_EQ(unpack(bytes), (Outcome{true, true, 6}));
-    samples::Bytes calledFor = samples::encode(params(0, secondBitRates | descriptor));
+    Bytes calledFor = samples::encode(params(0, secondBitRates | descriptor));
     calledFor.insert(calledFor.end(), broken.begin(), broken.end());
     EXPECT_FALSE(unpack(calledFor).unpacked);
 }

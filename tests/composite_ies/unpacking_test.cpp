@@ -8,17 +8,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using protocol::Presence;
-using protocol::Shape;
-using protocol::Slot;
-using protocol::Type;
-using samples::Amount;
-using samples::Bytes;
-using samples::IePtr;
-using samples::Node;
-using samples::Nodes;
-using samples::Random;
-
 namespace {
 
 std::size_t count_nodes(const Nodes &nodes) {
@@ -112,7 +101,7 @@ TEST_F(CompositeUnpacking, LengthOfASequenceIsNotUsed) {
 }
 
 TEST_F(CompositeUnpacking, SequenceAbsorbsTheChildThatFollowsIt) {
-    const Bytes bytes = samples::from_hex("0067 00000011 0017 00000001 05 0062 00000004 00000001"
+    const Bytes bytes = from_hex("0067 00000011 0017 00000001 05 0062 00000004 00000001"
                                           "0061 00000004 00000002");
     expect(unpack(samples::type("RabDataInfo"), bytes), true, 33, 3);
 }
@@ -125,7 +114,7 @@ TEST_F(CompositeUnpacking, BytesBehindTheLastChildAreLeft) {
         Bytes bytes = samples::encode(node);
         const std::size_t size = bytes.size();
         for (const char *tail : {"00", "00A8 00000002 0001", "FFFF FFFFFFFF FF"}) {
-            const Bytes more = samples::from_hex(tail);
+            const Bytes more = from_hex(tail);
             bytes.insert(bytes.end(), more.begin(), more.end());
             expect(unpack(*type, bytes), true, size, node.children.size());
             bytes.resize(size);
@@ -230,14 +219,14 @@ TEST_F(CompositeUnpacking, MandatoryFailureTellsTheBytesBeforeIt) {
     const Type &type = samples::type("ModifiedSrncContainer");
     const std::string container = "0075 00000002 AABB"; // 8 bytes
     const std::string cell = "0076 00000004 00000001";  // 10 bytes
-    expect(unpack(type, samples::from_hex("0074 00000000" + container + cell)), false, 24, 2);
-    expect(unpack(type, samples::from_hex("0074 00000000" + container + cell +
+    expect(unpack(type, from_hex("0074 00000000" + container + cell)), false, 24, 2);
+    expect(unpack(type, from_hex("0074 00000000" + container + cell +
                                           "009A 00000001 03")), // NumIuInstances: 1 or 2
            false, 24, 2);
-    expect(unpack(type, samples::from_hex("0074 00000000" + container +
+    expect(unpack(type, from_hex("0074 00000000" + container +
                                           "0076 00000004 10000000")), // 29 bits
            false, 14, 1);
-    expect(unpack(type, samples::from_hex("0074 00000000" + cell + container)), false, 6, 0);
+    expect(unpack(type, from_hex("0074 00000000" + cell + container)), false, 6, 0);
 }
 
 TEST_F(CompositeUnpacking, OptionalChildOutOfOrderStaysUnconsumed) {
@@ -245,12 +234,12 @@ TEST_F(CompositeUnpacking, OptionalChildOutOfOrderStaysUnconsumed) {
     const std::string mandatory = "0075 00000000 0076 00000004 00000001 009A 00000001 01"; // 23
     const std::string key = "0010 00000010 000102030405060708090A0B0C0D0E0F";              // 22
     const std::string algorithm = "000C 00000002 0001";
-    expect(unpack(type, samples::from_hex("0074 0000003F" + mandatory + algorithm + key)), true,
+    expect(unpack(type, from_hex("0074 0000003F" + mandatory + algorithm + key)), true,
            6 + 23 + 8 + 22, 5);
-    expect(unpack(type, samples::from_hex("0074 0000003F" + mandatory + key + algorithm)), true,
+    expect(unpack(type, from_hex("0074 0000003F" + mandatory + key + algorithm)), true,
            6 + 23 + 22, 4);
     // Invalid: the key is 15 bytes long; what follows is then no longer at the position.
-    expect(unpack(type, samples::from_hex("0074 0000003F" + mandatory +
+    expect(unpack(type, from_hex("0074 0000003F" + mandatory +
                                           "0010 0000000F 000102030405060708090A0B0C0D0E" +
                                           "009D 00000002 0001")),
            true, 6 + 23, 3);
@@ -260,12 +249,12 @@ TEST_F(CompositeUnpacking, OptionalListThatFailsIsLeftOut) {
     const Type &type = samples::type("UeContextRef");
     const std::string acUeId = "0003 00000004 00000001";
     // A list of no elements decodes, but is invalid; then the bytes of the list stay unconsumed.
-    expect(unpack(type, samples::from_hex("005F 00000010" + acUeId + "0066 00000000")), true, 16,
+    expect(unpack(type, from_hex("005F 00000010" + acUeId + "0066 00000000")), true, 16,
            1);
-    expect(unpack(type, samples::from_hex("005F 00000010" + acUeId + "0066 00000007 0067")), true,
+    expect(unpack(type, from_hex("005F 00000010" + acUeId + "0066 00000007 0067")), true,
            16, 1);
     expect(unpack(samples::type("RabToSetupPerCnDomain"),
-                  samples::from_hex("007D 00000000 0006 00000002 0000 0015 00000000")),
+                  from_hex("007D 00000000 0006 00000002 0000 0015 00000000")),
            true, 20, 2); // where none is fine
 }
 

@@ -104,7 +104,7 @@ std::vector<Operation> object_operations() {
     return all;
 }
 
-void add_value_operations(const protocol::Type &type, std::vector<Operation> *all) {
+void add_value_operations(const Type &type, std::vector<Operation> *all) {
     const std::string name = type.name;
     all->push_back(
         {"TarnSizeOf" + name, internal, 1, [&type](Pointers p) { return type.sizeOf(p[0]); }});
@@ -118,7 +118,7 @@ void add_value_operations(const protocol::Type &type, std::vector<Operation> *al
                     [&type](Pointers p) { return type.isValid(p[0]); }});
 }
 
-void add_ie_operations(const protocol::Type &type, std::vector<Operation> *all) {
+void add_ie_operations(const Type &type, std::vector<Operation> *all) {
     const std::string name = type.name;
     for (std::uint32_t available : {some, 0U}) {
         all->push_back({"TarnPack" + name + "Ie", internal, 3, [&type, available](Pointers p) {
@@ -136,9 +136,9 @@ void add_ie_operations(const protocol::Type &type, std::vector<Operation> *all) 
                         [&type](Pointers p) { return type.isIeValid(p[0]); }});
 }
 
-void add_slot_operations(const char *owner, const std::vector<protocol::Slot> &slots,
+void add_slot_operations(const char *owner, const std::vector<Slot> &slots,
                          std::vector<Operation> *all) {
-    for (const protocol::Slot &slot : slots) {
+    for (const Slot &slot : slots) {
         if (slot.append == nullptr)
             continue;
         const std::string name = std::string(slot.name) + " and " + owner;
@@ -156,7 +156,7 @@ void add_slot_operations(const char *owner, const std::vector<protocol::Slot> &s
 
 std::vector<Operation> ie_operations() {
     std::vector<Operation> all;
-    for (const protocol::Type *type : protocol::types()) {
+    for (const Type *type : protocol::types()) {
         if (!type->is_composite())
             add_value_operations(*type, &all);
         if (type->hasIe)
@@ -168,7 +168,7 @@ std::vector<Operation> ie_operations() {
 
 std::vector<Operation> message_operations() {
     std::vector<Operation> all;
-    for (const protocol::Message *message : protocol::messages()) {
+    for (const Message *message : protocol::messages()) {
         const std::string name = message->name;
         all.push_back({"TarnPack" + name + "Msg", api, 2, [message](Pointers p) {
                            return message->pack(as<TarnMsg>(p[0]), as<Byte>(p[1]), some);
@@ -247,9 +247,9 @@ TEST_F(NullPointersTest, MessageOperations) {
 
 // So that the result of an extract can be passed on as it is.
 TEST_F(NullPointersTest, ValidatorsOfWhatIsExtractedAnswerWithoutAReport) {
-    for (const protocol::Message *message : protocol::messages())
+    for (const Message *message : protocol::messages())
         EXPECT_EQ(message->isValid(nullptr), 0U) << message->name;
-    for (const protocol::Type *type : protocol::types())
+    for (const Type *type : protocol::types())
         if (type->is_composite()) {
             EXPECT_EQ(type->isIeValid(nullptr), 0U) << type->name;
         }

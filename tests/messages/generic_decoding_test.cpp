@@ -3,14 +3,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using protocol::Message;
-using samples::Amount;
-using samples::Bytes;
-using samples::from_hex;
-using samples::MsgPtr;
-using samples::Nodes;
-using samples::Random;
-
 namespace {
 
 class GenericDecoding : public LibraryTest {
@@ -73,34 +65,12 @@ TEST_F(GenericDecoding, EachIdReachesItsUnpackerAndNoOther) {
         }
 }
 
-TEST_F(GenericDecoding, IdsWithoutAMessage) {
-    for (const std::uint32_t id : {0U, 34U, 40U, 41U, 128U, 255U}) {
-        Bytes bytes = from_hex("0048 00000001 00 0006 00000002 0001");
-        bytes[6] = std::uint8_t(id);
-        EXPECT_EQ(unpack(bytes), 0U) << id;
-    }
-}
-
 TEST_F(GenericDecoding, ResetAloneAndWithItsDomain) {
     EXPECT_EQ(unpack(from_hex("0048 00000001 11")), 0U);
     EXPECT_EQ(unpack(from_hex("0048 00000001 11 0006 00000002 0001")), 17U);
     EXPECT_EQ(unpack(from_hex("0048 00000001 11 0006 00000002 0001 DEADBEEF")), 17U);
     EXPECT_EQ(unpack(from_hex("0048 00000002 11 00 0006 00000002 0001")), 0U);
     EXPECT_EQ(unpack({}), 0U);
-}
-
-TEST_F(GenericDecoding, MissingPointersAreFatal) {
-    const Bytes bytes = from_hex("0048 00000001 11 0006 00000002 0001");
-    const auto size = std::uint32_t(bytes.size());
-    TarnMsg *msg = nullptr;
-    EXPECT_EQ(TarnUnpackNewMsg(bytes.data(), size, nullptr), 0U);
-    EXPECT_EQ(TarnUnpackNewMsg(nullptr, size, &msg), 0U);
-    EXPECT_EQ(TarnUnpackNewMsg(nullptr, 0, &msg), 0U);
-    EXPECT_EQ(TarnUnpackNewMsg(nullptr, size, nullptr), 0U);
-    EXPECT_EQ(msg, nullptr);
-    expect_fatals(5, "tarn_if_api");
-    EXPECT_EQ(TarnGetMessageId(nullptr, size), 0U);
-    expect_fatals(1, "tarn_if_internal_funcs");
 }
 
 } // namespace

@@ -3,13 +3,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using samples::Amount;
-using samples::Bytes;
-using samples::MsgPtr;
-using samples::Node;
-using samples::Nodes;
-using samples::Random;
-
 namespace {
 
 class IapReset : public LibraryTest {
@@ -40,7 +33,7 @@ protected:
     }
     static std::size_t unpack(const Nodes &nodes, const char *tail = "") {
         Bytes bytes = samples::encode(nodes);
-        const Bytes more = samples::from_hex(tail);
+        const Bytes more = from_hex(tail);
         bytes.insert(bytes.end(), more.begin(), more.end());
         return unpack(bytes);
     }

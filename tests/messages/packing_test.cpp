@@ -6,14 +6,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using protocol::Message;
-using samples::Amount;
-using samples::Bytes;
-using samples::MsgPtr;
-using samples::Node;
-using samples::Nodes;
-using samples::Random;
-
 namespace {
 
 class MessagePacking : public LibraryTest {
@@ -77,7 +69,7 @@ TEST_F(MessagePacking, OnlyTheMessagesOwnIesArePacked) {
             const bool fits = std::all_of(nodes.begin(), nodes.end(), [other](const Node &node) {
                 return std::any_of(
                     other->slots.begin(), other->slots.end(),
-                    [&node](const protocol::Slot &slot) { return slot.type == node.type; });
+                    [&node](const Slot &slot) { return slot.type == node.type; });
             });
             EXPECT_EQ(pack(*other, nodes, &buffer), fits ? 1U : 0U)
                 << message->name << " as " << other->name;

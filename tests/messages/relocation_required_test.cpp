@@ -6,13 +6,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using samples::Amount;
-using samples::Bytes;
-using samples::MsgPtr;
-using samples::Node;
-using samples::Nodes;
-using samples::Random;
-
 namespace {
 
 // The IEs behind the mandatory ones in table order, as a set.
@@ -55,7 +48,7 @@ protected:
 
     static std::optional<Nodes> unpack(const Nodes &nodes, const char *tail = "") {
         Bytes bytes = samples::encode(nodes);
-        const Bytes more = samples::from_hex(tail);
+        const Bytes more = from_hex(tail);
         bytes.insert(bytes.end(), more.begin(), more.end());
         const samples::Exact exact(bytes);
         const MsgPtr msg(TarnUnpackRelocationRequiredMsg(exact.data(), exact.size()));

@@ -3,15 +3,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using protocol::Message;
-using protocol::Slot;
-using samples::Amount;
-using samples::Bytes;
-using samples::MsgPtr;
-using samples::Node;
-using samples::Nodes;
-using samples::Random;
-
 namespace {
 
 class MessageRoundTrip : public LibraryTest {};
@@ -109,75 +100,6 @@ TEST_F(MessageRoundTrip, AppendedIesStandInTheOrderOfTheCalls) {
         ASSERT_NE(msg, nullptr);
         EXPECT_EQ(samples::nodes_of(msg->ies), reversed);
         expect_packs(*message, msg.get(), samples::encode(reversed));
-    }
-}
-
-TEST_F(MessageRoundTrip, InvalidValueIsNotAppended) {
-    Random random(4);
-    for (const Message *message : protocol::messages()) {
-        const MsgPtr msg(message->create());
-        for (const Slot &slot : message->slots) {
-            const auto invalid = samples::make_invalid(*slot.type, random);
-            if (!invalid)
-                continue;
-            EXPECT_EQ(slot.append(msg.get(), invalid->value.data()), 0U) << slot.name;
-            EXPECT_EQ(samples::nodes_of(msg->ies).size(), 1U) << slot.name;
-            EXPECT_EQ(test_host::live_blocks(), 2U) << slot.name;
-        }
-    }
-}
-
-TEST_F(MessageRoundTrip, RepeatedIesAreExtractedInOrder) {
-    Random random(5);
-    for (const Message *message : protocol::messages()) {
-        SCOPED_TRACE(message->name);
-        const MsgPtr msg(message->create());
-        const Slot &slot = message->slots[1];
-        Nodes nodes;
-        for (int i = 0; i < 3; ++i) {
-            nodes.push_back(samples::make_node(*slot.type, Amount::random, random));
-            EXPECT_EQ(slot.append(msg.get(), nodes.back().value.data()), 1U);
-        }
-        for (const Node &node : nodes) {
-            Node extracted = node;
-            std::fill(extracted.value.begin(), extracted.value.end(), std::uint8_t(0));
-            EXPECT_EQ(slot.extract(msg.get(), extracted.value.data()), 1U);
-            EXPECT_EQ(extracted, node);
-        }
-        Bytes value(slot.type->valueSize, 0xEE);
-        EXPECT_EQ(slot.extract(msg.get(), value.data()), 0U);
-        EXPECT_EQ(value, Bytes(slot.type->valueSize, 0xEE));
-    }
-}
-
-TEST_F(MessageRoundTrip, MissingPointersAreFatal) {
-    for (const Message *message : protocol::messages()) {
-        SCOPED_TRACE(message->name);
-        const MsgPtr msg(message->create());
-        for (const Slot &slot : message->slots) {
-            Bytes value(sizeof(void *) + slot.type->valueSize);
-            EXPECT_EQ(slot.append(nullptr, value.data()), 0U);
-            // The append of MessageId, which takes the id by value, is one of the codecs.
-            const bool isMessageId = slot.type->tag == 72;
-            expect_fatals(1, isMessageId ? "tarn_if_internal_funcs" : "tarn_if_api");
-            if (!isMessageId) {
-                EXPECT_EQ(slot.append(msg.get(), nullptr), 0U);
-                expect_fatals(1, "tarn_if_api");
-            }
-            EXPECT_EQ(slot.extract(nullptr, value.data()), 0U);
-            EXPECT_EQ(slot.extract(msg.get(), nullptr), 0U);
-            expect_fatals(2, "tarn_if_api");
-        }
-        std::uint8_t buffer[16] = {};
-        EXPECT_EQ(message->pack(nullptr, buffer, 16), 0U);
-        EXPECT_EQ(message->pack(msg.get(), nullptr, 16), 0U);
-        EXPECT_EQ(message->pack(nullptr, nullptr, 16), 0U);
-        expect_fatals(4, "tarn_if_api");
-        EXPECT_EQ(message->unpack(nullptr, 16), nullptr);
-        EXPECT_EQ(message->unpack(nullptr, 0), nullptr);
-        expect_fatals(2, "tarn_if_internal_funcs");
-        EXPECT_EQ(message->isValid(nullptr), 0U);
-        EXPECT_EQ(samples::nodes_of(msg->ies).size(), 1U);
     }
 }
 

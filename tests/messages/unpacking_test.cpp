@@ -5,15 +5,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using protocol::Message;
-using protocol::Presence;
-using samples::Amount;
-using samples::Bytes;
-using samples::MsgPtr;
-using samples::Node;
-using samples::Nodes;
-using samples::Random;
-
 namespace {
 
 class MessageUnpacking : public LibraryTest {
@@ -96,60 +87,34 @@ TEST_F(MessageUnpacking, ForeignIeAtEachPosition) {
             if (!isMandatory)
                 taken.assign(nodes.begin(), nodes.begin() + std::ptrdiff_t(at));
             // The conditional IEs of IapReset and RelocationRequired may be required.
-            EXPECT_TRUE(message->id == 18 || message->id == 24 ||
-                        result.value_or(Nodes()) == taken);
+            EXPECT_TRUE(samples::has_conditional(*message) || result.value_or(Nodes()) == taken);
         }
     }
 }
 
-TEST_F(MessageUnpacking, EachMandatoryIeAbsentInvalidOrMisplacedRefuses) {
+TEST_F(MessageUnpacking, EachIeAbsentMisplacedTwiceOrInvalid) {
     Random random(4);
     for (const Message *message : protocol::messages()) {
         const Nodes nodes = samples::make_message(*message, Amount::slim, random);
         for (std::size_t at = 0; at < nodes.size(); ++at) {
-            if (message->slots[at].presence != Presence::mandatory)
-                continue;
             SCOPED_TRACE(std::string(message->name) + " IE " + std::to_string(at));
+            const auto place = std::ptrdiff_t(at);
             Nodes changed = nodes;
-            changed.erase(changed.begin() + std::ptrdiff_t(at));
-            EXPECT_FALSE(unpack(*message, samples::encode(changed)).has_value());
-            if (at + 1 < nodes.size()) {
-                changed = nodes;
-                std::swap(changed[at], changed[at + 1]);
-                EXPECT_FALSE(unpack(*message, samples::encode(changed)).has_value());
-            }
-            if (const auto invalid = samples::make_invalid(*nodes[at].type, random)) {
-                changed = nodes;
-                changed[at] = *invalid;
-                EXPECT_FALSE(unpack(*message, samples::encode(changed)).has_value());
-            }
-        }
-    }
-}
-
-TEST_F(MessageUnpacking, OptionalIeAbsentInvalidOrMisplacedIsLeftOut) {
-    Random random(5);
-    for (const Message *message : protocol::messages()) {
-        const Nodes nodes = samples::make_message(*message, Amount::slim, random);
-        for (std::size_t at = 0; at < nodes.size(); ++at) {
-            if (message->slots[at].presence != Presence::optional)
-                continue;
-            SCOPED_TRACE(std::string(message->name) + " IE " + std::to_string(at));
-            Nodes changed = nodes;
-            changed.erase(changed.begin() + std::ptrdiff_t(at));
-            EXPECT_EQ(unpack(*message, samples::encode(changed)), changed);
-            changed = nodes;
-            std::swap(changed[at], changed.back());
+            changed.erase(changed.begin() + place);
             expect_as_modelled(*message, samples::encode(changed));
+            for (const std::size_t other : {at + 1, nodes.size() - 1})
+                if (other < nodes.size()) {
+                    changed = nodes;
+                    std::swap(changed[at], changed[other]);
+                    expect_as_modelled(*message, samples::encode(changed));
+                }
             changed = nodes;
-            changed.insert(changed.begin() + std::ptrdiff_t(at), nodes[at]); // twice
+            changed.insert(changed.begin() + place, nodes[at]);
             expect_as_modelled(*message, samples::encode(changed));
             if (const auto invalid = samples::make_invalid(*nodes[at].type, random)) {
                 changed = nodes;
                 changed[at] = *invalid;
-                // The bytes of the invalid one stay in the way of those behind it.
-                EXPECT_EQ(unpack(*message, samples::encode(changed)),
-                          Nodes(nodes.begin(), nodes.begin() + std::ptrdiff_t(at)));
+                expect_as_modelled(*message, samples::encode(changed));
             }
         }
     }
@@ -173,7 +138,7 @@ TEST_F(MessageUnpacking, TrailingBytesAreIgnored) {
         SCOPED_TRACE(message->name);
         const Nodes nodes = samples::make_message(*message, Amount::slim, random);
         for (const char *tail : {"00", "0048 00000001 01", "FFFF FFFFFFFF", "002A 00000002 0001"})
-            EXPECT_EQ(unpack(*message, joined(nodes, samples::from_hex(tail))), nodes);
+            EXPECT_EQ(unpack(*message, joined(nodes, from_hex(tail))), nodes);
     }
 }
 
@@ -182,7 +147,7 @@ TEST_F(MessageUnpacking, ValueOfMessageIdIsNotComparedWithTheType) {
     Random random(7);
     for (const Message *message : protocol::messages()) {
         Nodes nodes = samples::make_message(*message, Amount::least, random);
-        samples::set_number(nodes.front(), 34);
+        samples::set_number(nodes.front(), samples::unknown_id());
         EXPECT_EQ(unpack(*message, samples::encode(nodes)), nodes) << message->name;
         const MsgPtr msg = samples::make_msg(*message, nodes);
         EXPECT_EQ(message->isValid(msg.get()), 1U) << message->name;

@@ -6,15 +6,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using protocol::Message;
-using protocol::Presence;
-using protocol::Slot;
-using samples::Amount;
-using samples::MsgPtr;
-using samples::Node;
-using samples::Nodes;
-using samples::Random;
-
 namespace {
 
 class MessageValidity : public LibraryTest {
@@ -36,15 +27,6 @@ std::size_t mandatory_count(const Message &message) {
     return std::size_t(
         std::count_if(message.slots.begin(), message.slots.end(),
                       [](const Slot &slot) { return slot.presence == Presence::mandatory; }));
-}
-
-TEST_F(MessageValidity, EmptyOrNothingButMessageId) {
-    Random random(1);
-    for (const Message *message : protocol::messages()) {
-        EXPECT_FALSE(is_valid(*message, {})) << message->name;
-        EXPECT_FALSE(is_valid(*message, {samples::number_node("MessageId", message->id)}))
-            << message->name;
-    }
 }
 
 TEST_F(MessageValidity, IdOfTheObjectMustBeThatOfTheType) {
@@ -113,15 +95,6 @@ TEST_F(MessageValidity, OptionalIesInAnyOrderNumberAndState) {
     }
 }
 
-TEST_F(MessageValidity, OptionalZoneInReverse) {
-    Random random(5);
-    for (const Message *message : protocol::messages()) {
-        Nodes nodes = samples::make_message(*message, Amount::slim, random);
-        std::reverse(nodes.begin() + std::ptrdiff_t(mandatory_count(*message)), nodes.end());
-        EXPECT_TRUE(is_valid(*message, nodes)) << message->name;
-    }
-}
-
 TEST_F(MessageValidity, UnexpectedIeCountsUpToTheLastPosition) {
     Random random(6);
     for (const Message *message : protocol::messages()) {
@@ -144,27 +117,6 @@ TEST_F(MessageValidity, UnexpectedIeCountsUpToTheLastPosition) {
             EXPECT_EQ(is_valid(*message, nodes), at >= message->slots.size());
         }
     }
-}
-
-TEST_F(MessageValidity, NamedExamples) {
-    Random random(7);
-    Nodes release =
-        samples::make_message(samples::message("UeContextRelease"), Amount::least, random);
-    EXPECT_TRUE(is_valid("UeContextRelease", release));
-    release.push_back(samples::number_node("Srnti", 1));
-    EXPECT_FALSE(is_valid("UeContextRelease", release));
-
-    const Nodes reset = {samples::number_node("MessageId", 17),
-                         samples::number_node("CnDomainId", 0), foreign()};
-    EXPECT_TRUE(is_valid("Reset", reset));
-    EXPECT_FALSE(is_valid("Reset", {reset[1], reset[0]}));
-    EXPECT_FALSE(is_valid("Reset", {reset[0], reset[2], reset[1]}));
-
-    Nodes command =
-        samples::make_message(samples::message("SecurityModeCommand"), Amount::slim, random);
-    ASSERT_EQ(command[5].type->tag, 10U);
-    std::swap(command[4], command[5]);
-    EXPECT_FALSE(is_valid("SecurityModeCommand", command));
 }
 
 TEST_F(MessageValidity, VerdictOnAMandatoryCompositeCounts) {

@@ -9,10 +9,6 @@
 
 namespace {
 
-using protocol::Shape;
-using protocol::Type;
-using samples::Bytes;
-
 class CapacityTest : public LibraryTest {
 protected:
     // An IE of this type with `count` bytes or items, whatever its array holds.
@@ -22,7 +18,7 @@ protected:
             inner.assign(count, 0x5A);
         else
             for (std::uint32_t i = 0; i < count; ++i) {
-                const Bytes item = samples::make_value(*type.item, samples::Fill::mixed);
+                const Bytes item = samples::make_value(*type.item, Amount::full);
                 const Bytes tlv = samples::ie_wire(*type.item, item.data());
                 inner.insert(inner.end(), tlv.begin(), tlv.end());
             }
@@ -71,7 +67,7 @@ TEST_F(CapacityTest, MoreThanTheArrayHoldsLeavesTheValueAsItWas) {
 
 // What an array held behind the bytes that came is not overwritten with what follows them.
 TEST_F(CapacityTest, OnlyTheBytesThatCameAreCopied) {
-    const samples::Input input(samples::from_hex("00 75 00 00 00 02 01 02  03 04 05 06"));
+    const samples::Input input(from_hex("00 75 00 00 00 02 01 02  03 04 05 06"));
     TarnRrcContainerIe ie{};
     std::memset(ie.value.bytes, 0xCD, sizeof ie.value.bytes);
     std::uint32_t consumed = 0;
@@ -105,7 +101,7 @@ TEST_F(CapacityTest, StoredBeyondTheArrayIsNotPacked) {
     std::size_t refused = 0;
     for (const Type *type : samples::primitive_ies())
         for (const samples::Spoiler &spoiler : samples::spoilers(*type)) {
-            Bytes value = samples::make_value(*type, samples::Fill::greatest);
+            Bytes value = samples::make_value(*type, Amount::most);
             spoiler.spoil(value.data());
             if (samples::fits_its_arrays(*type, value.data()))
                 continue;
@@ -152,20 +148,20 @@ TEST_F(CapacityTest, ItemsBehindTheOneThatIsRefusedAreStillWritten) {
 
 // Neither a message nor a composite takes them, or anything else that is out of range.
 TEST_F(CapacityTest, InvalidValuesAreNotAppended) {
-    const auto check = [](void *owner, const std::vector<protocol::Slot> &slots) {
+    const auto check = [](void *owner, const std::vector<Slot> &slots) {
         const std::size_t blocks = test_host::live_blocks();
-        for (const protocol::Slot &slot : slots) {
+        for (const Slot &slot : slots) {
             if (slot.type->is_composite() || slot.append == nullptr)
                 continue;
             for (const samples::Spoiler &spoiler : samples::spoilers(*slot.type)) {
-                Bytes value = samples::make_value(*slot.type, samples::Fill::greatest);
+                Bytes value = samples::make_value(*slot.type, Amount::most);
                 spoiler.spoil(value.data());
                 EXPECT_EQ(slot.append(owner, value.data()), 0U) << spoiler.what;
             }
         }
         EXPECT_EQ(test_host::live_blocks(), blocks);
     };
-    for (const protocol::Message *message : protocol::messages()) {
+    for (const Message *message : protocol::messages()) {
         TarnMsg *msg = message->create();
         check(msg, message->slots);
         EXPECT_EQ(TarnSizeOfMsg(msg), 7) << message->name;

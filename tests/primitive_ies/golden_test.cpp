@@ -5,9 +5,6 @@
 
 namespace {
 
-using protocol::Type;
-using samples::Bytes;
-
 struct Golden {
     const char *type;
     Bytes value;
@@ -25,7 +22,7 @@ class GoldenTest : public LibraryTest {
 protected:
     static void check_ie(const Golden &golden) {
         const Type &type = *protocol::type_by_name(golden.type);
-        const Bytes expected = samples::from_hex(golden.bytes);
+        const Bytes expected = from_hex(golden.bytes);
         const Bytes ie = samples::make_ie(type, golden.value);
         EXPECT_EQ(TarnSizeOfIe(reinterpret_cast<const TarnIe *>(ie.data())), expected.size());
         samples::Room room(expected.size());
@@ -45,7 +42,7 @@ protected:
 
     static void check_bare(const Golden &golden) {
         const Type &type = *protocol::type_by_name(golden.type);
-        const Bytes expected = samples::from_hex(golden.bytes);
+        const Bytes expected = from_hex(golden.bytes);
         EXPECT_EQ(type.sizeOf(golden.value.data()), expected.size());
         samples::Room room(expected.size());
         std::uint32_t written = 0;
@@ -193,7 +190,7 @@ TEST_F(GoldenTest, Lists) {
 TEST_F(GoldenTest, CodeWordsDropWhatDoesNotTravel) {
     std::size_t codeWords = 0;
     for (const Type *type : samples::primitives()) {
-        if (type->shape != protocol::Shape::scalar || type->width != 2 || type->valueSize != 4)
+        if (type->shape != Shape::scalar || type->width != 2 || type->valueSize != 4)
             continue;
         ++codeWords;
         for (std::uint32_t value : {0x00010005U, 0xFFFF0005U}) {

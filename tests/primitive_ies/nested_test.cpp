@@ -7,10 +7,6 @@
 
 namespace {
 
-using protocol::Shape;
-using protocol::Type;
-using samples::Bytes;
-
 class NestedTest : public LibraryTest {
 protected:
     struct Outcome {
@@ -44,7 +40,7 @@ protected:
     }
 
     static Bytes sample_wire(const Type &type) {
-        return samples::encode_value(type, samples::make_value(type, samples::Fill::mixed).data());
+        return samples::encode_value(type, samples::make_value(type, Amount::full).data());
     }
 };
 
@@ -243,8 +239,7 @@ TEST_F(NestedTest, NestedLengthsDecideWhereTheNextTagIs) {
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.what);
-        expect(*protocol::type_by_name(c.type), c.length, samples::from_hex(c.bytes), c.result,
-               c.consumed);
+        expect(*protocol::type_by_name(c.type), c.length, from_hex(c.bytes), c.result, c.consumed);
     }
 }
 
@@ -254,8 +249,7 @@ TEST_F(NestedTest, AnIeCountsItsHeaderAlone) {
         for (const Type *type : all(shape)) {
             if (!type->hasIe)
                 continue;
-            Bytes bytes =
-                samples::ie_wire(*type, samples::make_value(*type, samples::Fill::mixed).data());
+            Bytes bytes = samples::ie_wire(*type, samples::make_value(*type, Amount::full).data());
             const std::vector<std::uint32_t> bounds = samples::boundaries(sample_wire(*type));
             bytes[6 + *(bounds.end() - 2)] ^= 0x80; // the last nested tag
             const samples::Input input(bytes);

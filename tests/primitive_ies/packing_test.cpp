@@ -4,10 +4,6 @@
 
 namespace {
 
-using protocol::Shape;
-using protocol::Type;
-using samples::Bytes;
-
 constexpr std::uint32_t untouched = 0xC0FFEE;
 
 class PackingTest : public LibraryTest {};
@@ -18,8 +14,8 @@ bool counts_failures(const Type &type) {
 
 TEST_F(PackingTest, WritesExactlyTheValue) {
     for (const Type *type : samples::primitives())
-        for (samples::Fill fill : samples::allFills) {
-            const Bytes value = samples::make_value(*type, fill);
+        for (Amount amount : samples::allAmounts) {
+            const Bytes value = samples::make_value(*type, amount);
             const Bytes expected = samples::encode_value(*type, value.data());
             ASSERT_EQ(type->sizeOf(value.data()), expected.size()) << type->name;
             for (std::size_t more : {0U, 1U, 7U}) {
@@ -36,8 +32,8 @@ TEST_F(PackingTest, WritesExactlyTheValue) {
 
 TEST_F(PackingTest, WritesExactlyTheIe) {
     for (const Type *type : samples::primitive_ies())
-        for (samples::Fill fill : samples::allFills) {
-            const Bytes value = samples::make_value(*type, fill);
+        for (Amount amount : samples::allAmounts) {
+            const Bytes value = samples::make_value(*type, amount);
             const Bytes expected = samples::ie_wire(*type, value.data());
             const Bytes ie = samples::make_ie(*type, value);
             ASSERT_EQ(TarnSizeOfIe(reinterpret_cast<const TarnIe *>(ie.data())), expected.size());
@@ -55,7 +51,7 @@ TEST_F(PackingTest, WritesExactlyTheIe) {
 
 TEST_F(PackingTest, WritesNothingOfAValueIntoLessRoom) {
     for (const Type *type : samples::primitives()) {
-        const Bytes value = samples::make_value(*type, samples::Fill::mixed);
+        const Bytes value = samples::make_value(*type, Amount::full);
         for (std::uint32_t left = 0; left < type->sizeOf(value.data()); ++left) {
             samples::Room room(left);
             std::uint32_t written = untouched;
@@ -68,7 +64,7 @@ TEST_F(PackingTest, WritesNothingOfAValueIntoLessRoom) {
 
 TEST_F(PackingTest, WritesNothingOfAnIeIntoLessRoom) {
     for (const Type *type : samples::primitive_ies()) {
-        const Bytes value = samples::make_value(*type, samples::Fill::mixed);
+        const Bytes value = samples::make_value(*type, Amount::full);
         const Bytes ie = samples::make_ie(*type, value);
         const std::uint32_t size = TarnSizeOfIe(reinterpret_cast<const TarnIe *>(ie.data()));
         for (std::uint32_t left = 0; left < size; ++left) {
@@ -87,7 +83,7 @@ TEST_F(PackingTest, DoesNotLookAtRanges) {
     std::size_t packed = 0;
     for (const Type *type : samples::primitives())
         for (const samples::Spoiler &spoiler : samples::spoilers(*type)) {
-            Bytes value = samples::make_value(*type, samples::Fill::greatest);
+            Bytes value = samples::make_value(*type, Amount::most);
             spoiler.spoil(value.data());
             if (!samples::fits_its_arrays(*type, value.data()))
                 continue;
@@ -129,8 +125,7 @@ protected:
 };
 
 TEST_F(PackingUnderAnotherTagTest, ASmallerSizePassesAndFailsAtTheValue) {
-    for (std::uint16_t tag : {std::uint16_t(0), std::uint16_t(69), std::uint16_t(31),
-                              std::uint16_t(178), std::uint16_t(0xFFFF)}) {
+    for (const std::uint16_t tag : samples::tags_without_ie()) {
         check(tag, 0x01020304, 5, 0, 0); // 6 bytes by its tag
         check(tag, 0x01020304, 6, 0, 6);
         check(tag, 0x01020304, 9, 0, 6);
@@ -150,7 +145,7 @@ TEST_F(PackingUnderAnotherTagTest, AGreaterSizeIsRefused) {
 
 TEST_F(PackingUnderAnotherTagTest, NothingBehindTheHeaderIsWrittenOfAValueThatDoesNotFit) {
     for (const Type *type : samples::primitive_ies()) {
-        const Bytes value = samples::make_value(*type, samples::Fill::mixed);
+        const Bytes value = samples::make_value(*type, Amount::full);
         Bytes expected = samples::ie_wire(*type, value.data());
         const std::size_t size = expected.size();
         expected.resize(6);

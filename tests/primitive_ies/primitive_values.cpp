@@ -5,9 +5,6 @@
 
 namespace samples {
 
-using protocol::Shape;
-using protocol::Type;
-
 namespace {
 
 std::uint8_t *at(void *value, std::size_t offset) {
@@ -18,72 +15,8 @@ const std::uint8_t *at(const void *value, std::size_t offset) {
     return static_cast<const std::uint8_t *>(value) + offset;
 }
 
-std::uint32_t count_of(const void *value) {
-    std::uint32_t count;
-    std::memcpy(&count, value, sizeof count);
-    return count;
-}
-
 void set_count(void *value, std::uint32_t count) {
     std::memcpy(value, &count, sizeof count);
-}
-
-std::uint32_t number_of(const Type &type, const void *value) {
-    if (type.valueSize == 4)
-        return count_of(value);
-    std::uint16_t two = 0;
-    if (type.valueSize == 2)
-        std::memcpy(&two, value, sizeof two);
-    return type.valueSize == 2 ? two : *at(value, 0);
-}
-
-void set_number(const Type &type, void *value, std::uint32_t number) {
-    const auto two = std::uint16_t(number);
-    if (type.valueSize == 4)
-        set_count(value, number);
-    else if (type.valueSize == 2)
-        std::memcpy(value, &two, sizeof two);
-    else
-        *at(value, 0) = std::uint8_t(number);
-}
-
-// The greatest number that travels.
-std::uint32_t greatest_sent(const Type &scalar) {
-    const std::uint32_t wire = scalar.width == 4 ? 0xFFFFFFFF : (1U << (8 * scalar.width)) - 1;
-    return std::min(scalar.greatest, wire);
-}
-
-// Numbers that differ from each other, also in their single bytes.
-struct Mixer {
-    std::uint32_t last = 0x10;
-    std::uint32_t next() { return last += 0x01030507; }
-};
-
-std::uint32_t pick_number(const Type &type, Fill fill, Mixer *mixer) {
-    if (fill == Fill::least)
-        return type.least;
-    const std::uint32_t greatest = greatest_sent(type);
-    if (fill == Fill::greatest || greatest == type.least)
-        return greatest;
-    return type.least + mixer->next() % (greatest - type.least);
-}
-
-void fill_value(const Type &type, void *value, Fill fill, Mixer *mixer) {
-    if (type.shape == Shape::scalar) {
-        set_number(type, value, pick_number(type, fill, mixer));
-        return;
-    }
-    for (const protocol::Member &member : type.members)
-        fill_value(*member.type, at(value, member.offset), fill, mixer);
-    if (type.shape == Shape::record)
-        return;
-    const std::uint32_t count = fill == Fill::least ? type.least : type.greatest;
-    set_count(value, count);
-    for (std::uint32_t i = 0; i < count; ++i)
-        if (type.shape == Shape::bytes)
-            *at(value, 4 + i) = std::uint8_t(mixer->next());
-        else
-            fill_value(*type.item, at(value, type.itemsOffset + i * type.stride), fill, mixer);
 }
 
 void add_number_spoilers(const Type &type, std::vector<Spoiler> *all) {
@@ -92,7 +25,7 @@ void add_number_spoilers(const Type &type, std::vector<Spoiler> *all) {
                                                              : 0xFFFFFFFF;
     const auto add = [&](std::uint32_t number) {
         all->push_back({std::string(type.name) + "=" + std::to_string(number),
-                        [&type, number](void *value) { set_number(type, value, number); }});
+                        [&type, number](void *value) { store_number(type, value, number); }});
     };
     if (type.least > 0)
         for (std::uint32_t number : {type.least - 1, 0U})
@@ -122,26 +55,16 @@ void add_inner_spoilers(const Type &outer, const Type &inner, std::size_t offset
 } // namespace
 
 std::vector<const Type *> primitives() {
-    std::vector<const Type *> found;
-    for (const Type *type : protocol::types())
-        if (!type->is_composite())
-            found.push_back(type);
-    return found;
+    return types_where([](const Type &type) { return !type.is_composite(); });
 }
 
 std::vector<const Type *> primitive_ies() {
-    std::vector<const Type *> found;
-    for (const Type *type : primitives())
-        if (type->hasIe)
-            found.push_back(type);
-    return found;
+    return types_where([](const Type &type) { return !type.is_composite() && type.hasIe; });
 }
 
-Bytes make_value(const Type &type, Fill fill) {
-    Bytes value(type.valueSize, 0xCD);
-    Mixer mixer;
-    fill_value(type, value.data(), fill, &mixer);
-    return value;
+Bytes make_value(const Type &type, Amount amount) {
+    Random random(1);
+    return make_node(type, amount, random).value;
 }
 
 Bytes make_ie(const Type &type, const Bytes &value) {
@@ -184,7 +107,7 @@ bool fits_its_arrays(const Type &type, const void *value) {
 std::string show(const Type &type, const void *value) {
     std::string text = type.name;
     if (type.shape == Shape::scalar)
-        return text + "=" + std::to_string(number_of(type, value));
+        return text + "=" + std::to_string(load_number(type, value));
     if (type.shape == Shape::record) {
         for (const protocol::Member &member : type.members)
             text += "." + show(*member.type, at(value, member.offset));

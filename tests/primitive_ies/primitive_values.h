@@ -13,20 +13,14 @@
 
 namespace samples {
 
-enum class Fill {
-    least,    // every number, length and count at its lower bound
-    greatest, // at its upper bound
-    mixed,    // at its upper bound, but with numbers and bytes that all differ
-};
-inline constexpr Fill allFills[] = {Fill::least, Fill::greatest, Fill::mixed};
+inline constexpr Amount allAmounts[] = {Amount::least, Amount::most, Amount::full};
 
 // All primitive types, and those among them that are IEs.
 std::vector<const protocol::Type *> primitives();
 std::vector<const protocol::Type *> primitive_ies();
 
-// Returns a valid value, in a block that ends where the value ends. Code words have no bits that do
-// not travel.
-Bytes make_value(const protocol::Type &type, Fill fill);
+// Returns a valid value, in a block that ends where the value ends.
+Bytes make_value(const protocol::Type &type, Amount amount);
 
 // Returns an IE object with this value and its type's tag, in a block that ends where it ends.
 // Everything else of it holds a pattern.

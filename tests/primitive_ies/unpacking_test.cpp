@@ -4,11 +4,6 @@
 
 namespace {
 
-using protocol::Shape;
-using protocol::Type;
-using samples::Bytes;
-using samples::Fill;
-
 constexpr std::uint32_t untouched = 0xC0FFEE;
 
 class UnpackingTest : public LibraryTest {
@@ -59,8 +54,8 @@ protected:
         EXPECT_EQ(samples::show(type, outcome.value.data()), value);
     }
 
-    static Bytes sample_ie(const Type &type, Fill fill = Fill::mixed) {
-        return samples::ie_wire(type, samples::make_value(type, fill).data());
+    static Bytes sample_ie(const Type &type, Amount amount = Amount::full) {
+        return samples::ie_wire(type, samples::make_value(type, amount).data());
     }
 };
 
@@ -82,9 +77,9 @@ Bytes followed_by(Bytes bytes, std::size_t more) {
 
 TEST_F(UnpackingTest, TakesWhatWasPackedAtBothBounds) {
     for (const Type *type : samples::primitive_ies())
-        for (Fill fill : samples::allFills) {
-            const Bytes value = samples::make_value(*type, fill);
-            const Bytes bytes = sample_ie(*type, fill);
+        for (Amount amount : samples::allAmounts) {
+            const Bytes value = samples::make_value(*type, amount);
+            const Bytes bytes = sample_ie(*type, amount);
             const auto size = std::uint32_t(bytes.size());
             const std::string expected = samples::show(*type, value.data());
             expect_taken(*type, bytes, size, expected);
@@ -94,8 +89,8 @@ TEST_F(UnpackingTest, TakesWhatWasPackedAtBothBounds) {
 
 TEST_F(UnpackingTest, TakesBareValues) {
     for (const Type *type : samples::primitives())
-        for (Fill fill : samples::allFills) {
-            const Bytes value = samples::make_value(*type, fill);
+        for (Amount amount : samples::allAmounts) {
+            const Bytes value = samples::make_value(*type, amount);
             const Bytes bytes = samples::encode_value(*type, value.data());
             const auto size = std::uint32_t(bytes.size());
             for (std::size_t more : {0U, 9U}) {
@@ -112,7 +107,7 @@ TEST_F(UnpackingTest, TakesBareValues) {
 TEST_F(UnpackingTest, TakesWhatIsOutOfRange) {
     for (const Type *type : samples::primitive_ies())
         for (const samples::Spoiler &spoiler : samples::spoilers(*type)) {
-            Bytes value = samples::make_value(*type, Fill::greatest);
+            Bytes value = samples::make_value(*type, Amount::most);
             spoiler.spoil(value.data());
             if (!samples::fits_its_arrays(*type, value.data()))
                 continue;
@@ -125,8 +120,8 @@ TEST_F(UnpackingTest, TakesWhatIsOutOfRange) {
 
 TEST_F(UnpackingTest, RefusesEveryStrictPrefix) {
     for (const Type *type : samples::primitive_ies())
-        for (Fill fill : {Fill::greatest, Fill::least}) {
-            const Bytes bytes = sample_ie(*type, fill);
+        for (Amount amount : {Amount::most, Amount::least}) {
+            const Bytes bytes = sample_ie(*type, amount);
             for (std::size_t size = 0; size < bytes.size(); ++size) {
                 SCOPED_TRACE(size);
                 expect_refused(*type, first(bytes, size), size < 2 ? 0 : size < 6 ? 2 : 6);
@@ -137,7 +132,7 @@ TEST_F(UnpackingTest, RefusesEveryStrictPrefix) {
 TEST_F(UnpackingTest, RefusesEveryStrictPrefixOfABareValue) {
     for (const Type *type : samples::primitives()) {
         const Bytes bytes =
-            samples::encode_value(*type, samples::make_value(*type, Fill::mixed).data());
+            samples::encode_value(*type, samples::make_value(*type, Amount::full).data());
         const bool counts = type->shape == Shape::record || type->shape == Shape::list;
         for (std::size_t size = 0; size < bytes.size(); ++size) {
             const Outcome expected{0, counts ? 0 : untouched, Bytes(type->valueSize, 0xCD)};
@@ -195,7 +190,7 @@ TEST_F(UnpackingTest, ALengthBeyondTheBufferIsRefusedHoweverLarge) {
 // bounded by the buffer alone and is read to its end.
 TEST_F(UnpackingTest, ALengthOneTooSmall) {
     for (const Type *type : samples::primitive_ies()) {
-        Bytes value = samples::make_value(*type, Fill::mixed);
+        Bytes value = samples::make_value(*type, Amount::full);
         const Bytes bytes = sample_ie(*type);
         auto consumed = std::uint32_t(bytes.size());
         const Bytes damaged = with_length(bytes, consumed - 7);
@@ -215,7 +210,7 @@ TEST_F(UnpackingTest, ALengthOneTooSmall) {
 // behind its last member. A list tries to read another item.
 TEST_F(UnpackingTest, ALengthOneTooLarge) {
     for (const Type *type : samples::primitive_ies()) {
-        Bytes value = samples::make_value(*type, Fill::mixed);
+        Bytes value = samples::make_value(*type, Amount::full);
         const Bytes bytes = sample_ie(*type);
         const auto size = std::uint32_t(bytes.size());
         const Bytes damaged = followed_by(with_length(bytes, size - 5), 1);

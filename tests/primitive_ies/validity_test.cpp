@@ -6,15 +6,12 @@
 
 namespace {
 
-using protocol::Type;
-using samples::Bytes;
-
 class ValidityTest : public LibraryTest {};
 
 TEST_F(ValidityTest, EveryTypeTakesBothOfItsBounds) {
     for (const Type *type : samples::primitives())
-        for (samples::Fill fill : samples::allFills) {
-            const Bytes value = samples::make_value(*type, fill);
+        for (Amount amount : samples::allAmounts) {
+            const Bytes value = samples::make_value(*type, amount);
             EXPECT_EQ(type->isValid(value.data()), 1U) << samples::show(*type, value.data());
             if (type->hasIe) {
                 EXPECT_EQ(type->isIeValid(samples::make_ie(*type, value).data()), 1U) << type->name;
@@ -26,7 +23,7 @@ TEST_F(ValidityTest, EveryTypeRefusesWhatLiesBeyondThemAtAnyDepth) {
     std::size_t refused = 0;
     for (const Type *type : samples::primitives())
         for (const samples::Spoiler &spoiler : samples::spoilers(*type)) {
-            Bytes value = samples::make_value(*type, samples::Fill::greatest);
+            Bytes value = samples::make_value(*type, Amount::most);
             spoiler.spoil(value.data());
             EXPECT_EQ(type->isValid(value.data()), 0U) << spoiler.what;
             if (type->hasIe) {
@@ -40,7 +37,7 @@ TEST_F(ValidityTest, EveryTypeRefusesWhatLiesBeyondThemAtAnyDepth) {
 
 TEST_F(ValidityTest, AnIeIsValidUnderItsOwnTagAlone) {
     for (const Type *type : samples::primitive_ies()) {
-        Bytes ie = samples::make_ie(*type, samples::make_value(*type, samples::Fill::mixed));
+        Bytes ie = samples::make_ie(*type, samples::make_value(*type, Amount::full));
         for (std::uint32_t tag = 0; tag <= 0xFFFF; tag += tag < 0x200 ? 1 : 0x1F) {
             reinterpret_cast<TarnIe *>(ie.data())->tag = std::uint16_t(tag);
             ASSERT_EQ(type->isIeValid(ie.data()), tag == type->tag) << type->name << " " << tag;

@@ -5,15 +5,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using protocol::Message;
-using protocol::Slot;
-using samples::Amount;
-using samples::Bytes;
-using samples::Node;
-using samples::Nodes;
-using samples::Random;
-using samples::Record;
-
 namespace {
 
 class GetTest : public LibraryTest {
@@ -156,7 +147,7 @@ TEST_F(GetTest, BytesThatDoNotUnpack) {
         Bytes bytes = samples::encode(nodes);
         bytes.pop_back();
         Nodes unknown = nodes;
-        samples::set_number(unknown.front(), 34);
+        samples::set_number(unknown.front(), samples::unknown_id());
         for (const Bytes &bad : {bytes, samples::encode(unknown), Bytes(), Bytes{0x00}}) {
             Record record(*message, filler);
             const std::size_t before = test_host::debug_tokens().size();

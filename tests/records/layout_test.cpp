@@ -5,9 +5,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using samples::Bytes;
-using samples::from_hex;
-
 namespace {
 
 class RecordLayout : public LibraryTest {};

@@ -3,14 +3,6 @@
 #include <algorithm>
 #include <cstring>
 
-using protocol::Message;
-using protocol::Presence;
-using protocol::Shape;
-using protocol::Slot;
-using protocol::Type;
-using samples::Node;
-using samples::Nodes;
-
 namespace model {
 
 namespace {
@@ -120,9 +112,7 @@ bool value_is_valid(const Type &type, const std::uint8_t *value) {
     return inRange;
 }
 
-bool is_conditional(const Slot &slot) {
-    return slot.presence == Presence::conditional || slot.presence == Presence::repeated;
-}
+using samples::is_conditional;
 
 // ---- Validity ----------------------------------------------------------------------------------
 

@@ -4,12 +4,6 @@
 
 #include "support/samples.h"
 
-using protocol::Message;
-using protocol::Presence;
-using protocol::Shape;
-using protocol::Slot;
-using protocol::Type;
-
 namespace samples {
 
 // ---- Objects made and read without the library -------------------------------------------------

@@ -5,12 +5,6 @@
 #include <ostream>
 #include <string>
 
-using protocol::Message;
-using protocol::Presence;
-using protocol::Shape;
-using protocol::Slot;
-using protocol::Type;
-
 namespace samples {
 
 std::uint32_t Random::next() { // splitmix64
@@ -24,19 +18,6 @@ std::uint32_t Random::next() { // splitmix64
 std::uint32_t Random::between(std::uint32_t least, std::uint32_t greatest) {
     return std::uint32_t(least + next() % (std::uint64_t{greatest} - least + 1));
 }
-
-namespace {
-
-template <class Wanted>
-std::vector<const Type *> types_where(Wanted wanted) {
-    std::vector<const Type *> found;
-    for (const Type *candidate : protocol::types())
-        if (wanted(*candidate))
-            found.push_back(candidate);
-    return found;
-}
-
-} // namespace
 
 std::vector<const Type *> composites() {
     return types_where([](const Type &candidate) { return candidate.is_composite(); });
@@ -59,6 +40,29 @@ const Message &message(std::string_view name) {
     return *protocol::message_by_name(name);
 }
 
+std::vector<std::uint16_t> tags_without_ie() {
+    std::vector<std::uint16_t> tags;
+    for (std::uint32_t tag = 0; tag <= 0xFFFF; ++tag)
+        if (const Type *found = protocol::type_by_tag(tag); found == nullptr || !found->hasIe)
+            tags.push_back(std::uint16_t(tag));
+    return tags;
+}
+
+std::uint32_t unknown_id() {
+    std::uint32_t id = 1;
+    while (protocol::message_by_id(id) != nullptr)
+        ++id;
+    return id;
+}
+
+bool is_conditional(const Slot &slot) {
+    return slot.presence == Presence::conditional || slot.presence == Presence::repeated;
+}
+
+bool has_conditional(const Message &message) {
+    return std::any_of(message.slots.begin(), message.slots.end(), is_conditional);
+}
+
 bool operator==(const Node &a, const Node &b) {
     return a.type == b.type && encode(a) == encode(b);
 }
@@ -76,8 +80,6 @@ std::ostream &operator<<(std::ostream &out, const Node &node) {
         out << ' ' << child;
     return out << " }";
 }
-
-namespace {
 
 std::uint32_t load_number(const Type &type, const void *value) {
     if (type.valueSize == 1)
@@ -100,6 +102,8 @@ std::uint32_t count_of(const void *value) {
     return *static_cast<const std::uint32_t *>(value);
 }
 
+namespace {
+
 std::uint32_t pick(const Type &type, Amount amount, Random &random) {
     switch (amount) {
     case Amount::least:
@@ -113,13 +117,24 @@ std::uint32_t pick(const Type &type, Amount amount, Random &random) {
     }
 }
 
+std::uint32_t pick_number(const Type &type, Amount amount, Random &random) {
+    const std::uint32_t sent = type.width == 4 ? 0xFFFFFFFF : (1U << (8 * type.width)) - 1;
+    switch (amount) {
+    case Amount::least:
+        return type.least;
+    case Amount::most:
+        return std::min(type.greatest, sent);
+    case Amount::full:
+        return random.between(type.least, std::min(type.greatest, sent));
+    default:
+        return random.between(type.least, type.greatest);
+    }
+}
+
 void make_value(const Type &type, void *value, Amount amount, Random &random) {
     auto *bytes = static_cast<std::uint8_t *>(value);
     if (type.shape == Shape::scalar) {
-        const bool whole = amount != Amount::slim;
-        store_number(type, value,
-                     whole ? pick(type, amount, random)
-                           : random.between(type.least, type.greatest));
+        store_number(type, value, pick_number(type, amount, random));
     } else if (type.shape == Shape::bytes) {
         const std::uint32_t length = pick(type, amount, random);
         std::memcpy(value, &length, sizeof length);

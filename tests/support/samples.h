@@ -48,8 +48,18 @@ enum class Amount {
     least,  // no optional IEs, the shortest strings and lists, the least numbers
     slim,   // all optional IEs, yet strings and lists of an element or two
     random, // whatever is valid
-    most,   // all optional IEs, the longest strings and lists, the greatest numbers
+    most,   // all optional IEs, the longest strings and lists, the greatest numbers that travel
+    full,   // the same with any numbers that travel
 };
+
+template <class Wanted>
+std::vector<const protocol::Type *> types_where(Wanted wanted) {
+    std::vector<const protocol::Type *> found;
+    for (const protocol::Type *type : protocol::types())
+        if (wanted(*type))
+            found.push_back(type);
+    return found;
+}
 
 // The composite types: all, those with a table of slots, those of one repeated element.
 std::vector<const protocol::Type *> composites();
@@ -58,6 +68,14 @@ std::vector<const protocol::Type *> composite_lists();
 
 const protocol::Type &type(std::string_view name);
 const protocol::Message &message(std::string_view name);
+
+// Tags that no IE has: gaps, tags that only list items carry, and what lies behind the last one.
+std::vector<std::uint16_t> tags_without_ie();
+// A message id that the protocol lacks.
+std::uint32_t unknown_id();
+
+bool is_conditional(const protocol::Slot &slot);
+bool has_conditional(const protocol::Message &message);
 
 // ---- Making samples up -------------------------------------------------------------------------
 
@@ -77,6 +95,10 @@ std::optional<Node> make_invalid(const protocol::Type &type, Random &random);
 
 // Whether the conditional slot must hold its IE, given the IEs before it.
 bool called_for(const protocol::Slot &slot, const Nodes &before);
+
+std::uint32_t load_number(const protocol::Type &type, const void *value);
+void store_number(const protocol::Type &type, void *value, std::uint32_t number);
+std::uint32_t count_of(const void *value); // of a byte string or list
 
 Node number_node(std::string_view type, std::uint32_t number);
 std::uint32_t number_of(const Node &node);
@@ -159,5 +181,10 @@ void fill_record(const protocol::Message &message, const Nodes &nodes, Record *r
 Nodes read_record(const protocol::Message &message, Record *record);
 
 } // namespace samples
+
+// The names that nearly every test uses.
+using protocol::Message, protocol::Presence, protocol::Shape, protocol::Slot, protocol::Type;
+using samples::Amount, samples::Bytes, samples::IePtr, samples::MsgPtr, samples::Node,
+    samples::Nodes, samples::Random, samples::Record, samples::from_hex;
 
 #endif

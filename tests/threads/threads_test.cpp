@@ -14,11 +14,6 @@
 
 namespace {
 
-using protocol::Message;
-using samples::Amount;
-using samples::Bytes;
-using samples::Nodes;
-
 constexpr unsigned threadCount = 8; // more than there are processors, mostly
 constexpr unsigned rounds = 5;
 
@@ -42,14 +37,14 @@ Bytes pack(const Message &type, const TarnMsg *msg) {
 
 // Objects out and in.
 void go_by_objects(const Message &type, const Nodes &nodes, const Bytes &bytes) {
-    const samples::MsgPtr sent = samples::create_msg(type, nodes);
+    const MsgPtr sent = samples::create_msg(type, nodes);
     ASSERT_NE(sent, nullptr) << type.name;
     EXPECT_EQ(type.isValid(sent.get()), 1U) << type.name;
     EXPECT_EQ(pack(type, sent.get()), bytes) << type.name;
 
     TarnMsg *msg = nullptr;
     ASSERT_EQ(TarnUnpackNewMsg(bytes.data(), std::uint32_t(bytes.size()), &msg), 1U) << type.name;
-    const samples::MsgPtr received(msg);
+    const MsgPtr received(msg);
     EXPECT_EQ(samples::extract_all(msg, type), nodes);
     TarnResetMsgExtractHistory(msg);
     EXPECT_EQ(samples::extract_all(msg, type), nodes);
@@ -57,20 +52,20 @@ void go_by_objects(const Message &type, const Nodes &nodes, const Bytes &bytes) 
 
 // Records out and in.
 void go_by_records(const Message &type, const Nodes &nodes, const Bytes &bytes) {
-    samples::Record sent(type);
+    Record sent(type);
     samples::fill_record(type, nodes, &sent);
     Bytes built(bytes.size());
     EXPECT_EQ(type.build(built.data(), std::uint32_t(built.size()), sent.data()), bytes.size());
     EXPECT_EQ(built, bytes) << type.name;
 
-    samples::Record received(type);
+    Record received(type);
     EXPECT_EQ(type.get(bytes.data(), std::uint32_t(bytes.size()), received.data()), 1U);
     EXPECT_EQ(samples::read_record(type, &received), nodes);
 }
 
 TEST(Threads, EncodeAndDecodeDifferentMessagesAtOnce) {
     run_on_all([](unsigned number) {
-        samples::Random random(number);
+        Random random(number);
         for (unsigned round = 0; round < rounds; ++round)
             for (const Message *type : protocol::messages()) {
                 const Nodes nodes = samples::make_message(*type, Amount::random, random);
@@ -85,7 +80,7 @@ TEST(Threads, EncodeAndDecodeDifferentMessagesAtOnce) {
 // Failures release what was built before them, in the thread that they happen in.
 TEST(Threads, RefuseBrokenMessagesAtOnce) {
     run_on_all([](unsigned number) {
-        samples::Random random(number);
+        Random random(number);
         for (const Message *type : protocol::messages()) {
             Bytes bytes = samples::encode(samples::make_message(*type, Amount::least, random));
             bytes.pop_back();
@@ -99,15 +94,15 @@ TEST(Threads, RefuseBrokenMessagesAtOnce) {
 // One thread's messages, for another to take.
 class Queue {
 public:
-    void put(samples::MsgPtr msg) {
+    void put(MsgPtr msg) {
         const std::scoped_lock lock(mutex_);
         messages_.push_back(std::move(msg));
         filled_.notify_one();
     }
-    samples::MsgPtr take() {
+    MsgPtr take() {
         std::unique_lock lock(mutex_);
         filled_.wait(lock, [this] { return !messages_.empty(); });
-        samples::MsgPtr msg = std::move(messages_.front());
+        MsgPtr msg = std::move(messages_.front());
         messages_.pop_front();
         return msg;
     }
@@ -115,7 +110,7 @@ public:
 private:
     std::mutex mutex_;
     std::condition_variable filled_;
-    std::deque<samples::MsgPtr> messages_;
+    std::deque<MsgPtr> messages_;
 };
 
 // An object belongs to one thread at a time, not to the one that made it: each thread finishes,
@@ -123,12 +118,12 @@ private:
 TEST(Threads, HandMessagesOver) {
     std::vector<Queue> queues(threadCount);
     run_on_all([&queues](unsigned number) {
-        samples::Random random(number);
+        Random random(number);
         for (const Message *type : protocol::messages()) {
             const Bytes bytes = samples::encode(samples::make_message(*type, Amount::slim, random));
             queues[(number + 1) % threadCount].put(
-                samples::MsgPtr(type->unpack(bytes.data(), std::uint32_t(bytes.size()))));
-            const samples::MsgPtr taken = queues[number].take();
+                MsgPtr(type->unpack(bytes.data(), std::uint32_t(bytes.size()))));
+            const MsgPtr taken = queues[number].take();
             ASSERT_NE(taken, nullptr) << type->name;
             const Message &takenType = *protocol::message_by_id(taken->messageId);
             const Nodes nodes = samples::extract_all(taken.get(), takenType);

@@ -73,7 +73,8 @@ int check(const std::filesystem::path &root, const std::vector<File> &files) {
         std::cerr << file.path << " differs from the rows in src/catalogue\n";
     }
     if (!same)
-        std::cerr << "to mend: cmake --build build --target tarn_headers\n";
+        std::cerr << "to mend: cmake --preset release && "
+                     "cmake --build --preset release --target tarn_headers\n";
     return same ? 0 : 1;
 }
 

@@ -1,6 +1,6 @@
 // The sample messages of examples/messages, with what their comments say of them.
-#ifndef TARN_TEST_TOOL_SAMPLES_H
-#define TARN_TEST_TOOL_SAMPLES_H
+#ifndef TARN_TEST_SAMPLE_FILES_H
+#define TARN_TEST_SAMPLE_FILES_H
 
 #include <cstdint>
 #include <ostream>

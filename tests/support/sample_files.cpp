@@ -1,4 +1,4 @@
-#include "samples.h"
+#include "support/sample_files.h"
 
 #include <algorithm>
 #include <filesystem>
