@@ -95,6 +95,38 @@ TEST_F(GetTest, ChildrenOfCompositesThatAreAbsent) {
     EXPECT_EQ(record.RabDataInfoList.items[1].RabId, 22);
 }
 
+// A list that is there and empty says so, whatever the record counted before.
+TEST_F(GetTest, CountOfAnEmptyListInAUsedRecord) {
+    Random random(7);
+    std::size_t seen = 0;
+    for (const Message *message : protocol::messages()) {
+        Nodes nodes = samples::make_message(*message, Amount::slim, random);
+        for (Node &node : nodes) {
+            if (node.type->shape != Shape::compositeList || node.type->least != 0)
+                continue;
+            node.children.clear();
+            const auto slot =
+                std::find_if(message->slots.begin(), message->slots.end(),
+                             [&node](const Slot &one) { return one.type == node.type; });
+            Record record(*message, filler);
+            EXPECT_EQ(get(*message, samples::encode(nodes), &record), 1U) << message->name;
+            EXPECT_EQ(Bytes(record.at(slot->recordOffset), record.at(slot->recordOffset) + 2),
+                      Bytes(2))
+                << message->name << ' ' << slot->name;
+            ++seen;
+        }
+    }
+    EXPECT_GT(seen, 0U);
+    TarnRabAssignmentRequestRecord sent = {}; // one within another
+    sent.RabList.count = 1;
+    sent.RabList.items[0].RabParams.TrafficClass = 1;
+    Bytes bytes(200);
+    bytes.resize(TarnBuildRabAssignmentRequestMsg(bytes.data(), 200, &sent));
+    sent.RabList.items[0].RabParams.SduParams.count = 7;
+    EXPECT_EQ(TarnGetRabAssignmentRequestMsg(bytes.data(), std::uint32_t(bytes.size()), &sent), 1U);
+    EXPECT_EQ(sent.RabList.items[0].RabParams.SduParams.count, 0);
+}
+
 // The second BitErrRatio and BitRates have members of their own, also where what stands between
 // the two places is absent.
 TEST_F(GetTest, TypeNamedTwice) {
