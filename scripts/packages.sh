@@ -5,7 +5,8 @@
 #   demo      what it takes to build the library and the tool; taken where none is named
 #   test      that, and what the tests are built with
 #   bench     that, and what the benchmarks compare with
-# and, for single stages of scripts/test.sh: format, clang, tidy, coverage, cross, abi.
+# and, for single stages of scripts/test.sh: format, clang, tidy, coverage, cross, abi,
+# python.
 set -euo pipefail
 
 declare -A packages=(
@@ -18,6 +19,7 @@ declare -A packages=(
     [coverage]="gcovr"
     [cross]="@build googletest g++-arm-linux-gnueabihf g++-s390x-linux-gnu qemu-user"
     [abi]="@cross abigail-tools"
+    [python]="python3 python3-pytest mypy"
     [bench]="@test libbenchmark-dev nanopb libnanopb-dev libprotobuf-c-dev protobuf-c-compiler
         protobuf-compiler libprotobuf-dev capnproto libcapnp-dev flatbuffers-compiler
         libflatbuffers-dev valgrind libmimalloc2.0 libjemalloc2 libtcmalloc-minimal4"

@@ -4,6 +4,8 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
+cmake --preset release >/dev/null
+cmake --build --preset release --target tarn tarn_host tarn_info tarn_tool exchange_ap -- --quiet
 build=$PWD/build/release
 export PYTHONPATH=$PWD/python PYTHONDONTWRITEBYTECODE=1
 export TARN_LIBRARY_PATH=$build/src:$build/host:$build/info

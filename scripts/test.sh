@@ -16,15 +16,17 @@
 #   armhf      the tests on 32-bit ARM (Thumb-2), under qemu
 #   s390x      the tests on a big-endian processor, under qemu
 #   abi        the binary interface against its baseline
+#   python     the Python module, its examples and its guide
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 quick=(gcc sanitizers format)
-all=(gcc sanitizers format coverage tidy threads fuzz armhf s390x abi)
+all=(gcc sanitizers format coverage tidy threads fuzz armhf s390x abi python)
 
 # The groups of scripts/packages.sh that a stage needs; `test` where none is named.
 declare -A needs=([format]=format [tidy]=tidy [threads]="test clang" [fuzz]="test clang"
-    [coverage]="test coverage" [armhf]=cross [s390x]=cross [abi]="cross abi")
+    [coverage]="test coverage" [armhf]=cross [s390x]=cross [abi]="cross abi"
+    [python]="test python")
 
 run_preset() {
     cmake --preset "$1" >/dev/null
@@ -49,6 +51,7 @@ stage_fuzz() { scripts/fuzz.sh 3; }
 stage_armhf() { run_preset armhf; }
 stage_s390x() { run_preset s390x; }
 stage_abi() { scripts/abi.sh; }
+stage_python() { scripts/python.sh; }
 
 usage() { # exit status
     sed -n '2,/^set /{/^#/s/^# \{0,1\}//p}' "$0"
