@@ -4,9 +4,8 @@
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
-// Built for size, the engine reads the catalogue's rows as it goes. Built for speed, it has a walk
-// of its own for each message and composite, and short ways for numbers and byte strings, which are
-// most of what travels.
+// Built for size, the engine reads the catalogue's rows as it goes. Built for speed, each message
+// and composite has walks of its own, and bytes that are plainly good take a short way (plain.h).
 #if !defined(__OPTIMIZE_SIZE__) && !defined(TARN_COMPACT)
 #define TARN_BUILT_FOR_SPEED
 inline constexpr bool builtForSpeed = true;
@@ -14,8 +13,8 @@ inline constexpr bool builtForSpeed = true;
 inline constexpr bool builtForSpeed = false;
 #endif
 
-// What the walks are made of is to become part of them: left to itself, the compiler stops long
-// before. A lambda takes the attribute behind its parameters.
+// Left to itself, the compiler does not inline all that a walk is made of. A lambda takes the
+// attribute behind its parameters. TARN_SHARED is inlined only where a walk is one owner's alone.
 #ifdef TARN_BUILT_FOR_SPEED
 #define TARN_INLINE        [[gnu::always_inline]] inline
 #define TARN_INLINE_LAMBDA __attribute__((always_inline))

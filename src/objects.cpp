@@ -28,6 +28,12 @@ void reset_ie(TarnIe *ie) {
 
 } // namespace
 
+uint32_t append_message_id(TarnMsg *msg, TarnMessageId value) {
+    if (any_null(TARN_CALLER(moduleInternal), msg))
+        return 0;
+    return link_message_id(msg, value);
+}
+
 void delete_ie(TarnIe *ie) {
     if (is_composite_tag(ie->tag))
         delete_all(children_of(ie));

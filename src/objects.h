@@ -55,6 +55,9 @@ TARN_INLINE uint32_t link_message_id(TarnMsg *msg, TarnMessageId id) {
     return 1;
 }
 
+// The same as an operation of the public interface, which belongs to the codecs.
+uint32_t append_message_id(TarnMsg *msg, TarnMessageId value);
+
 // Releases the IE object and all below it. It must not be linked any more.
 void delete_ie(TarnIe *ie);
 

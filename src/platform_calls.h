@@ -37,17 +37,11 @@ TARN_INLINE bool any_null(Caller caller, const Pointers *...pointers) {
     return true;
 }
 
-// The variable is null when the host gets it. It is cleared through a pointer that the compiler
-// does not see through: cleared and read under the same stack address, it is taken by some
-// processors to hold the null still after the call, and the whole creation of an IE is then thrown
-// away and done again.
+// The variable is null when the host gets it.
 TARN_INLINE void *allocate(uint32_t size, Caller caller) {
-    void *block;
-    void **variable = &block;
-    asm("" : "+r"(variable));
-    *variable = nullptr;
-    velAllocMemoryWithIds(size, variable, caller.module, caller.line);
-    return block; // NOLINT(clang-analyzer-core.uninitialized.UndefReturn)
+    void *block = nullptr;
+    velAllocMemoryWithIds(size, &block, caller.module, caller.line);
+    return block;
 }
 
 TARN_INLINE void release(void *block, Caller caller) {

@@ -15,12 +15,8 @@ inline constexpr char module[] = "tarn_floor";
 
 template <class Object>
 inline Object *allocate() {
-    // As in the library: null on entry, and written under another address than it is read.
-    void *block;
-    void **variable = &block;
-    asm("" : "+r"(variable));
-    *variable = nullptr;
-    velAllocMemoryWithIds(sizeof(Object), variable, module, __LINE__);
+    void *block = nullptr;
+    velAllocMemoryWithIds(sizeof(Object), &block, module, __LINE__);
     return static_cast<Object *>(block);
 }
 

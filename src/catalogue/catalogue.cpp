@@ -84,21 +84,22 @@ constexpr bool none_is_tried_again(const SlotTable &table) {
     return true;
 }
 
-// The IE that a condition looks at is a mandatory code word with numbers alone before it: so it is
-// there when the condition is asked, and found by the lengths of what stands before it.
+// The IE that a condition looks at is mandatory, with numbers alone before it: so it is there when
+// the condition is asked, and found by the lengths of what stands before it.
+constexpr bool finds(const SlotTable &table, const Condition &condition) {
+    for (const Slot *slot = catalogue.slots + table.first;
+         slot->presence == Presence::mandatory && is_number(catalogue.types[slot->type].kind);
+         ++slot)
+        if (slot->type == condition.type)
+            return true;
+    return false;
+}
+
 constexpr bool conditions_hold(const SlotTable &table) {
-    for (unsigned i = 0; i < table.count; ++i) {
-        const Slot &slot = catalogue.slots[table.first + i];
-        if (!is_conditional(slot))
-            continue;
-        if (slot.condition == always || slot.rule == UnpackRule::none)
-            return false;
-        unsigned k = 0;
-        while (k < table.mandatory &&
-               catalogue.slots[table.first + k].type != catalogue.conditions[slot.condition].type)
-            if (!is_number(catalogue.slots[table.first + k++].kind))
-                return false;
-        if (k == table.mandatory)
+    for (unsigned i = table.first; i < unsigned(table.first + table.count); ++i) {
+        const Slot &slot = catalogue.slots[i];
+        if (is_conditional(slot) && (slot.condition == always || slot.rule == UnpackRule::none ||
+                                     !finds(table, catalogue.conditions[slot.condition])))
             return false;
     }
     return true;

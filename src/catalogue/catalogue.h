@@ -28,7 +28,7 @@ constexpr void add_slot(Catalogue &c, int number, int ownerBegin, TypeId type, P
             bit >>= 1;
     if (presence == Presence::mandatory)
         bit = 0;
-    c.slots[number] = {type, Kind::none, presence, condition, rule, uint8_t(bit), uint16_t(offset)};
+    c.slots[number] = {type, presence, condition, rule, uint8_t(bit), uint16_t(offset)};
 }
 
 constexpr void add_slots(Catalogue &c) {
@@ -171,11 +171,6 @@ constexpr void add_fixed_sizes(Catalogue &c) {
     }
 }
 
-constexpr void add_kinds(Catalogue &c) {
-    for (Slot &slot : c.slots)
-        slot.kind = c.types[slot.type].kind;
-}
-
 constexpr bool accepts_all(const Catalogue &c, const Type &type) {
     if (is_number(type.kind)) {
         const unsigned bits = 8U * type.valueSize;
@@ -218,7 +213,6 @@ constexpr Catalogue make_catalogue() {
     add_slots(c);
     add_types(c);
     add_fixed_sizes(c);
-    add_kinds(c);
     add_acceptance(c);
     add_messages(c);
     add_conditions(c);

@@ -163,7 +163,6 @@ struct SlotTable {
 // One place of a sequence composite or a message.
 struct Slot {
     TypeId type;
-    Kind kind; // of the type
     Presence presence;
     ConditionId condition;
     UnpackRule rule;       // of the owner, where the slot is conditional

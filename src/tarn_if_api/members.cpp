@@ -40,12 +40,6 @@ uint32_t append_value(VelDllHead *list, Id id, const void *value) {
     return 1;
 }
 
-uint32_t append_message_id(TarnMsg *msg, TarnMessageId value) {
-    if (any_null(TARN_CALLER(moduleInternal), msg))
-        return 0;
-    return link_message_id(msg, value);
-}
-
 template <class Owner>
 uint32_t link(Owner *owner, TarnIe *child) {
     if (any_null(TARN_CALLER(moduleApi), owner, child))

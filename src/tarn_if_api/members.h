@@ -6,7 +6,7 @@
 #define TARN_MEMBERS_H
 
 #include "objects.h"
-#include "tarn_if_internal_funcs/constants.h"
+#include "tarn_if_internal_funcs/slots.h"
 #include "tarn_if_internal_funcs/values.h"
 
 namespace [[gnu::visibility("hidden")]] tarn {
@@ -32,9 +32,6 @@ TARN_INLINE uint32_t append(Owner *owner, const void *value, Id id) {
         return 0;
     return append_value(list_of(owner), id, value);
 }
-
-// The MessageId IE, whose append is one of the codecs.
-uint32_t append_message_id(TarnMsg *msg, TarnMessageId value);
 
 // A composite is linked unseen: neither its tag nor its validity matters until the owner is
 // validated or packed.

@@ -46,7 +46,7 @@ constexpr Reason graver(Reason a, Reason b) {
 }
 
 template <class Id>
-[[gnu::noinline]] Outcome measure_composite(Id id, const void *record);
+Outcome measure_composite(Id id, const void *record);
 
 template <class Id>
 TARN_INLINE Outcome measure_member(Id id, const void *member) {
@@ -125,7 +125,7 @@ Outcome measure_composite(Id id, const void *record) {
 // ---- Writing a record that was judged good -----------------------------------------------------
 
 template <class Id>
-[[gnu::noinline]] uint8_t *put_composite(Id id, const void *record, uint8_t *at);
+uint8_t *put_composite(Id id, const void *record, uint8_t *at);
 
 template <class Id>
 TARN_INLINE uint8_t *put_member(Id id, const void *member, uint8_t *at) {
@@ -171,8 +171,7 @@ uint8_t *put_composite(Id id, const void *record, uint8_t *at) {
 // ---- Filling a record from bytes that were judged good -----------------------------------------
 
 template <class Id>
-[[gnu::noinline]] const uint8_t *get_composite(Id id, void *record, const uint8_t *at,
-                                               const uint8_t *end);
+const uint8_t *get_composite(Id id, void *record, const uint8_t *at, const uint8_t *end);
 
 // Stores the IE that stands here in its owner's record. Presence bits are set and never cleared,
 // and the members of absent IEs are left alone: a caller may gather several messages into one

@@ -1,8 +1,6 @@
-// The buffer primitives and sizes of the public interface.
-#include "catalogue/catalogue.h"
+// The exported operations on tags and lengths in a buffer.
 #include "platform_calls.h"
-#include "tarn_if_internal_funcs/sizes.h"
-#include "tarn_if_internal_funcs/unpacking.h"
+#include "tarn_if.h"
 #include "wire.h"
 
 using namespace tarn;
@@ -33,20 +31,4 @@ uint32_t TarnPackLengthIntoBuffer(uint32_t length, uint8_t *buffer, uint32_t ava
         return 0;
     store32(buffer, length);
     return lengthSize;
-}
-
-uint32_t TarnSizeOfIe(const TarnIe *ie) {
-    return ie_size_checked(ie);
-}
-
-int32_t TarnSizeOfMsg(const TarnMsg *msg) {
-    return msg_size_checked(msg);
-}
-
-uint32_t TarnIsComplexType(uint32_t tag) {
-    return is_composite_tag(tag);
-}
-
-uint32_t TarnGetMessageId(const uint8_t *buffer, uint32_t length) {
-    return peek_message_id_checked(buffer, length);
 }

@@ -1,7 +1,7 @@
 // The exported unpackers of the messages, and the append of their MessageId IE, which reports
 // itself as one of the codecs and not, like all other appends, as an object operation.
+#include "objects.h"
 #include "tarn_if.h"
-#include "tarn_if_api/members.h"
 #include "tarn_if_internal_funcs/unpacking.h"
 
 using namespace tarn;

@@ -15,7 +15,7 @@ TARN_INLINE bool write_children(Id id, const VelDllHead *children, Output *out);
 // Sizes are not asked again on the way down: a composite's length is filled in once its children
 // are written, so packing stays linear in the IEs however deep they nest.
 template <class Id>
-[[gnu::noinline]] uint32_t write_composite(Id id, const TarnIe *ie, Output out) {
+uint32_t write_composite(Id id, const TarnIe *ie, Output out) {
     if (out.left < headerSize)
         return 0;
     Output rest = out;

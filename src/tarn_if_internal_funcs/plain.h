@@ -77,7 +77,7 @@ TARN_INLINE bool is_plain(Constant<id> known, const uint8_t *at) {
 // Each returns where the IE ends, or null if it is not plainly good.
 
 template <class Id>
-[[gnu::noinline]] const uint8_t *plain_composite(Id id, const uint8_t *at, const uint8_t *end);
+const uint8_t *plain_composite(Id id, const uint8_t *at, const uint8_t *end);
 
 template <TypeId id>
 TARN_INLINE const uint8_t *plain_ie(Constant<id>, const uint8_t *at, const uint8_t *end);

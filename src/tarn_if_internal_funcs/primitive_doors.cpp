@@ -9,7 +9,7 @@ using namespace tarn;
 
 #define VALUE_DOORS(name_)                                                                         \
     uint32_t TarnSizeOf##name_(const Tarn##name_ *value) {                                         \
-        return size_of_value(value, type##name_);                                                  \
+        return value_size_checked(value, type##name_);                                             \
     }                                                                                              \
     uint32_t TarnPack##name_(const Tarn##name_ *value, uint8_t *buffer, uint32_t available,        \
                              uint32_t *written) {                                                  \
@@ -20,7 +20,7 @@ using namespace tarn;
         return unpack_value(value, length, buffer, available, consumed, type##name_);              \
     }                                                                                              \
     uint32_t TarnIs##name_##Valid(const Tarn##name_ *value) {                                      \
-        return is_value_valid(value, type##name_);                                                 \
+        return value_is_valid_checked(value, type##name_);                                         \
     }
 
 #define IE_DOORS(name_)                                                                            \

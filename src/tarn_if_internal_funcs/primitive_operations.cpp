@@ -6,7 +6,7 @@
 
 namespace tarn {
 
-uint32_t size_of_value(const void *value, TypeId id) {
+uint32_t value_size_checked(const void *value, TypeId id) {
     return any_null(TARN_CALLER(moduleInternal), value) ? 0 : value_size(id, value);
 }
 
@@ -43,7 +43,7 @@ uint32_t unpack_value(void *value, uint32_t length, const uint8_t *buffer, uint3
     return ok;
 }
 
-uint32_t is_value_valid(const void *value, TypeId id) {
+uint32_t value_is_valid_checked(const void *value, TypeId id) {
     if (any_null(TARN_CALLER(moduleInternal), value))
         return 0;
     return value_is_valid(id, value);

@@ -6,12 +6,12 @@
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
-uint32_t size_of_value(const void *value, TypeId id);
+uint32_t value_size_checked(const void *value, TypeId id);
 uint32_t pack_value(const void *value, uint8_t *buffer, uint32_t available, uint32_t *written,
                     TypeId id);
 uint32_t unpack_value(void *value, uint32_t length, const uint8_t *buffer, uint32_t available,
                       uint32_t *consumed, TypeId id);
-uint32_t is_value_valid(const void *value, TypeId id);
+uint32_t value_is_valid_checked(const void *value, TypeId id);
 
 } // namespace tarn
 

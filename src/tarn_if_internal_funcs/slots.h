@@ -1,19 +1,48 @@
-// Walking the slots of an owner, which is a message or a sequence composite.
+// Walking the slots of a message or sequence composite, and the members of a record.
 //
-// Built for speed, the engine has a walk of its own for each message and composite: the same code
-// as for any other, compiled once more with the owner as a constant, so that all that its rows say
-// is worked out by the compiler. Built for size, one walk reads the rows as it goes.
+// Built for size, one walk serves all of them and reads the catalogue's rows as it goes. Built for
+// speed, the same code is compiled once more for each of them, with its id as a constant, so that
+// the compiler works out whatever the rows say.
 #ifndef TARN_SLOTS_H
 #define TARN_SLOTS_H
 
 #include <stddef.h>
 
+#include <type_traits>
 #include <utility>
 
-#include "platform_calls.h"
-#include "tarn_if_internal_funcs/constants.h"
+#include "catalogue/catalogue.h"
 
 namespace [[gnu::visibility("hidden")]] tarn {
+
+// A type or message that is named where the code is compiled. It stands wherever a plain one does.
+template <auto value>
+using Constant = std::integral_constant<decltype(value), value>;
+
+template <class Id>
+inline constexpr bool isConstant = !std::is_enum_v<Id> && !std::is_same_v<Id, SlotTable>;
+
+// A case of a switch by type or message: calls `use` with it as a constant. Handlers of rows.
+#define TARN_TYPE_CASE(name_, ...)                                                                 \
+    case type##name_:                                                                              \
+        return use(Constant<type##name_>());
+#define TARN_MESSAGE_CASE(name_, ...)                                                              \
+    case message##name_:                                                                           \
+        return use(Constant<message##name_>());
+
+// A type or message as the engine takes it: built for speed a constant, else a plain one.
+template <auto value>
+inline constexpr std::conditional_t<builtForSpeed, Constant<value>, decltype(value)> asBuilt{
+    Constant<value>()};
+
+// The type of a list's items or elements.
+inline constexpr TypeId element_of(TypeId list) {
+    return type_of(list).array.item;
+}
+template <TypeId list>
+inline constexpr auto element_of(Constant<list>) {
+    return Constant<type_of(list).array.item>();
+}
 
 // Calls `use` with the composite's id, built for speed as a constant.
 template <class Use>
@@ -79,10 +108,8 @@ template <unsigned index>
 struct FixedSlot {
     static constexpr const Slot &row = catalogue.slots[index];
     static constexpr Constant<row.type> type{};
-    static constexpr Kind kind = row.kind;
     static constexpr Presence presence = row.presence;
     static constexpr ConditionId condition = row.condition;
-    static constexpr UnpackRule rule = row.rule;
     static constexpr uint8_t presenceBit = row.presenceBit;
     static constexpr uint16_t recordOffset = row.recordOffset;
 };
@@ -133,9 +160,8 @@ TARN_INLINE bool each_member(Id record, [[maybe_unused]] Visit visit) {
         constexpr SlotTable table = type_of(Id::value).slots;
         return visit_fixed_members<table.first>(std::make_index_sequence<table.count>(), visit);
     } else {
-        const SlotTable &table = type_of(record).slots;
-        for (unsigned i = 0; i < table.count; ++i)
-            if (!visit(catalogue.members[table.first + i]))
+        for (const Member &member : members_of(type_of(record)))
+            if (!visit(member))
                 return false;
         return true;
     }

@@ -12,8 +12,7 @@ namespace {
 
 // Each makes an object of the IE that stands here, links it and returns where the next IE begins.
 template <class Id>
-[[gnu::noinline]] const uint8_t *make_composite(Id id, VelDllHead *list, const uint8_t *at,
-                                                const uint8_t *end);
+const uint8_t *make_composite(Id id, VelDllHead *list, const uint8_t *at, const uint8_t *end);
 
 template <class Id>
 TARN_INLINE const uint8_t *make_primitive(Id id, VelDllHead *list, const uint8_t *at) {
