@@ -55,6 +55,9 @@ if(TARN_HAS_SYSTEM)
     endif()
 endif()
 
+set(TARN_UNPROTECTED tarn CACHE STRING
+    "Targets without a stack protector: its price in the codec is more than 3 % (scripts/protector.sh)")
+
 # tarn_ships(target): a library or program that users get.
 function(tarn_ships target)
     target_compile_options(${target} PRIVATE
@@ -64,6 +67,11 @@ function(tarn_ships target)
         # not through a stub with an indirect jump of its own, which processors predict less well.
         # The stubs are smaller, so builds for size keep them.
         $<$<CONFIG:Release,RelWithDebInfo>:-fno-plt>)
+    if(target IN_LIST TARN_UNPROTECTED)
+        target_compile_options(${target} PRIVATE -fno-stack-protector)
+    elseif(TARN_HAS_SYSTEM)
+        target_compile_options(${target} PRIVATE -fstack-protector-strong)
+    endif()
     set_target_properties(${target} PROPERTIES
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON)

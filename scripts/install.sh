@@ -43,11 +43,12 @@ by_cmake() {
     shift
     say "$way"
     cmake -S tests/install -B "$build" -G Ninja -DWAY="$way" -DPROGRAM="$program" \
-        -DTARN_SOURCE="$root" "$@" >"$build.log" 2>&1 ||
+        -DTARN_SOURCE="$root" -DTARN_COMPACT=ON "$@" >"$build.log" 2>&1 ||
         { cat "$build.log"; fail "$way"; }
     cmake --build "$build" -- --quiet
     runs "" "$build/program"
     runs "" "$build/program_reversed"
+    [ ! -e "$build/program_static" ] || runs "" "$build/program_static"
 }
 # builds_alone BUILD: the guest has compiled the libraries that were linked, and nothing of ours else.
 builds_alone() {
@@ -57,12 +58,23 @@ builds_alone() {
     ! grep -q -e -Werror "$1/build.ninja" || fail "a guest's warnings stop its host"
 }
 
+# hardened FILE...: nothing that the loader writes stays writable, and no stack can be executed.
+hardened() {
+    local file
+    for file in "$@"; do
+        readelf --wide --segments --dynamic "$file" >"$work/elf"
+        grep -q GNU_RELRO "$work/elf" && grep -q 'Flags:.* NOW' "$work/elf" &&
+            grep -qE 'GNU_STACK .* RW +0x' "$work/elf" || fail "$file is not hardened"
+    done
+}
+
 [ -f build/release/CMakeCache.txt ] || cmake --preset release -DTARN_TESTS=OFF >/dev/null
-cmake --build build/release --target tarn tarn_host tarn_info tarn_tool -- --quiet
+cmake --build build/release --target tarn tarn_static tarn_host tarn_info tarn_tool -- --quiet
 rm -rf "$work"
 mkdir -p "$work"
 
 cmake --install build/release --prefix "$work/prefix" >"$work/log"
+hardened "$work"/prefix/lib/*.so "$work/prefix/bin/tarn"
 by_pkg_config "$work/prefix" tarn_host "$program"
 by_pkg_config "$work/prefix" tarn "$program" examples/own_host.c
 tool_runs "$work/prefix"
@@ -77,8 +89,8 @@ tool_runs "$work/stage/usr"
 by_pkg_config "$work/stage/usr" tarn_host "$program"
 
 # A library directory that was given as a whole path.
-cmake -S . -B "$work/absolute" -G Ninja -DTARN_TOOLS=OFF -DTARN_EXAMPLES=OFF -DTARN_TESTS=OFF \
-    -DCMAKE_BUILD_TYPE=Debug -DCMAKE_INSTALL_LIBDIR="$work/else/lib" >"$work/log"
+cmake -S . -B "$work/absolute" -G Ninja -DTARN_TOOLS=OFF -DTARN_INFO=OFF -DTARN_EXAMPLES=OFF \
+    -DTARN_TESTS=OFF -DTARN_COMPACT=ON -DCMAKE_BUILD_TYPE=Debug -DCMAKE_INSTALL_LIBDIR="$work/else/lib" >"$work/log"
 cmake --build "$work/absolute" -- --quiet
 cmake --install "$work/absolute" --prefix "$work/else" >"$work/log"
 by_pkg_config "$work/else" tarn_host "$program"

@@ -5,13 +5,13 @@
 #   demo      what it takes to build the library and the tool; taken where none is named
 #   test      that, and what the tests are built with
 #   bench     that, and what the benchmarks compare with
-# and, for single stages of scripts/test.sh: format, clang, tidy, coverage, cross, abi,
-# python.
+# and, for single stages of scripts/test.sh: format, clang, tidy, coverage, cross, abi, python, pack,
+# bare (bare metal).
 set -euo pipefail
 
 declare -A packages=(
     [build]="cmake ninja-build g++"
-    [demo]="@build libcli11-dev nlohmann-json3-dev zlib1g-dev"
+    [demo]="@build pkg-config libcli11-dev nlohmann-json3-dev zlib1g-dev"
     [test]="@demo libgtest-dev python3"
     [format]="clang-format git"
     [clang]="@build clang libclang-rt-dev"
@@ -20,6 +20,8 @@ declare -A packages=(
     [cross]="@build googletest g++-arm-linux-gnueabihf g++-s390x-linux-gnu qemu-user"
     [abi]="@cross abigail-tools"
     [python]="python3 python3-pytest mypy"
+    [pack]="@demo debhelper dh-python dpkg-dev lintian mandoc python3"
+    [bare]="@build gcc-arm-none-eabi libnewlib-arm-none-eabi libstdc++-arm-none-eabi-newlib"
     [bench]="@test libbenchmark-dev nanopb libnanopb-dev libprotobuf-c-dev protobuf-c-compiler
         protobuf-compiler libprotobuf-dev capnproto libcapnp-dev flatbuffers-compiler
         libflatbuffers-dev valgrind libmimalloc2.0 libjemalloc2 libtcmalloc-minimal4"

@@ -40,7 +40,8 @@ for roads in "1 objects" "2 one call" "3 both roads"; do
     program=build/bare-metal/four_messages_${roads%% *}
     arm-none-eabi-g++ -std=c++20 -Os -mcpu=cortex-m4 -mthumb -ffreestanding -fno-exceptions \
         -fno-rtti -ffunction-sections -fdata-sections "-DROADS=${roads%% *}" -Iinclude -Iplatform \
-        -o "$program" bench/four_messages.cpp bench/object_road.cpp build/bare-metal/src/libtarn.a \
-        -nostartfiles -Wl,--gc-sections,--entry=main,--unresolved-symbols=ignore-all,-Map="$program.map"
+        -o "$program" bench/four_messages.cpp bench/object_road.cpp bench/samples.cpp \
+        build/bare-metal/src/libtarn.a -nostartfiles \
+         -Wl,--gc-sections,--entry=main,--unresolved-symbols=ignore-all,-Map="$program.map"
     python3 bench/static_report.py "${roads#* }" 20480 "$program.map"
 done
