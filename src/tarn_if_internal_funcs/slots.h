@@ -9,11 +9,18 @@
 #include <stddef.h>
 
 #include <type_traits>
-#include <utility>
 
 #include "catalogue/catalogue.h"
 
 namespace [[gnu::visibility("hidden")]] tarn {
+
+// The numbers below a count, as constants. Those of C++ come with a header that bare metal lacks.
+template <size_t... index>
+struct Indices {};
+template <size_t count, size_t... index>
+struct IndicesBelow : IndicesBelow<count - 1, count - 1, index...> {};
+template <size_t... index>
+struct IndicesBelow<0, index...> : Indices<index...> {};
 
 // A type or message that is named where the code is compiled. It stands wherever a plain one does.
 template <auto value>
@@ -115,7 +122,7 @@ struct FixedSlot {
 };
 
 template <unsigned first, size_t... index, class Visit>
-TARN_INLINE bool visit_fixed(std::index_sequence<index...>, [[maybe_unused]] Visit &visit) {
+TARN_INLINE bool visit_fixed(Indices<index...>, [[maybe_unused]] Visit &visit) {
     return (visit(FixedSlot<first + index>()) && ...);
 }
 
@@ -124,8 +131,7 @@ template <unsigned skipped, class Owner, class Visit>
 TARN_INLINE bool each_slot_behind(const Owner &owner, Visit visit) {
     if constexpr (isConstant<Owner>) {
         constexpr const SlotTable &table = slots_of(Owner::value);
-        return visit_fixed<table.first + skipped>(std::make_index_sequence<table.count - skipped>(),
-                                                  visit);
+        return visit_fixed<table.first + skipped>(IndicesBelow<table.count - skipped>(), visit);
     } else {
         const SlotTable &table = slots_of(owner);
         const Slot *const end = slots_end(table);
@@ -149,7 +155,7 @@ struct FixedMember {
 };
 
 template <unsigned first, size_t... index, class Visit>
-TARN_INLINE bool visit_fixed_members(std::index_sequence<index...>, [[maybe_unused]] Visit visit) {
+TARN_INLINE bool visit_fixed_members(Indices<index...>, [[maybe_unused]] Visit visit) {
     return (visit(FixedMember<first + index>()) && ...);
 }
 
@@ -158,7 +164,7 @@ template <class Id, class Visit>
 TARN_INLINE bool each_member(Id record, [[maybe_unused]] Visit visit) {
     if constexpr (isConstant<Id>) {
         constexpr SlotTable table = type_of(Id::value).slots;
-        return visit_fixed_members<table.first>(std::make_index_sequence<table.count>(), visit);
+        return visit_fixed_members<table.first>(IndicesBelow<table.count>(), visit);
     } else {
         for (const Member &member : members_of(type_of(record)))
             if (!visit(member))
