@@ -69,6 +69,7 @@ hardened() {
 }
 
 [ -f build/release/CMakeCache.txt ] || cmake --preset release -DTARN_TESTS=OFF >/dev/null
+cmake -DTARN_STATIC=ON build/release >/dev/null
 cmake --build build/release --target tarn tarn_static tarn_host tarn_info tarn_tool -- --quiet
 rm -rf "$work"
 mkdir -p "$work"
