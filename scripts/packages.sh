@@ -21,7 +21,7 @@ declare -A packages=(
     [abi]="@cross abigail-tools"
     [python]="python3 python3-pytest mypy"
     [pack]="@demo debhelper dh-python dpkg-dev lintian mandoc python3"
-    [bare]="@build gcc-arm-none-eabi libnewlib-arm-none-eabi libstdc++-arm-none-eabi-newlib"
+    [bare]="@build gcc-arm-none-eabi libnewlib-arm-none-eabi libstdc++-arm-none-eabi-newlib python3"
     [bench]="@test libbenchmark-dev nanopb libnanopb-dev libprotobuf-c-dev protobuf-c-compiler
         protobuf-compiler libprotobuf-dev capnproto libcapnp-dev flatbuffers-compiler
         libflatbuffers-dev valgrind libmimalloc2.0 libjemalloc2 libtcmalloc-minimal4"

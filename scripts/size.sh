@@ -31,17 +31,4 @@ cmake -S . -B build/size-speed -G Ninja -DCMAKE_BUILD_TYPE=Release -DTARN_TOOLS=
 cmake --build build/size-speed --target tarn >>build/size-speed.log
 python3 bench/size_report.py "This machine, -O2" build/size-speed/src/libtarn.so.0
 
-# What a program on bare metal takes of the static library, its host left out.
-echo "==== Bare metal, Thumb-2, -Os: a program with four messages, text and constants of libtarn.a"
-echo
-cmake --preset bare-metal >build/bare-metal.log
-cmake --build --preset bare-metal >>build/bare-metal.log
-for roads in "1 objects" "2 one call" "3 both roads"; do
-    program=build/bare-metal/four_messages_${roads%% *}
-    arm-none-eabi-g++ -std=c++20 -Os -mcpu=cortex-m4 -mthumb -ffreestanding -fno-exceptions \
-        -fno-rtti -ffunction-sections -fdata-sections "-DROADS=${roads%% *}" -Iinclude -Iplatform \
-        -o "$program" bench/four_messages.cpp bench/object_road.cpp bench/samples.cpp \
-        build/bare-metal/src/libtarn.a -nostartfiles \
-         -Wl,--gc-sections,--entry=main,--unresolved-symbols=ignore-all,-Map="$program.map"
-    python3 bench/static_report.py "${roads#* }" 20480 "$program.map"
-done
+scripts/bare_metal.sh

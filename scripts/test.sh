@@ -17,16 +17,21 @@
 #   s390x      the tests on a big-endian processor, under qemu
 #   abi        the binary interface against its baseline
 #   python     the Python module, its examples and its guide
+#   install    what is installed, used by pkg-config and in three ways by CMake
+#   bare       the static library for bare metal, and what a program takes of it
+#   packages   the Debian packages, judged by lintian
+#   reproducible  two builds in different places, bit by bit
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 quick=(gcc sanitizers format)
-all=(gcc sanitizers format coverage tidy threads fuzz armhf s390x abi python)
+all=(gcc sanitizers format coverage tidy threads fuzz armhf s390x abi python
+    install bare packages reproducible)
 
 # The groups of scripts/packages.sh that a stage needs; `test` where none is named.
 declare -A needs=([format]=format [tidy]=tidy [threads]="test clang" [fuzz]="test clang"
     [coverage]="test coverage" [armhf]=cross [s390x]=cross [abi]="cross abi"
-    [python]="test python")
+    [python]="test python" [bare]=bare [packages]=pack)
 
 run_preset() {
     cmake --preset "$1" >/dev/null
@@ -52,6 +57,10 @@ stage_armhf() { run_preset armhf; }
 stage_s390x() { run_preset s390x; }
 stage_abi() { scripts/abi.sh; }
 stage_python() { scripts/python.sh; }
+stage_install() { scripts/install.sh; }
+stage_bare() { scripts/bare_metal.sh; }
+stage_packages() { scripts/debian.sh; }
+stage_reproducible() { scripts/reproducible.sh; }
 
 usage() { # exit status
     sed -n '2,/^set /{/^#/s/^# \{0,1\}//p}' "$0"
