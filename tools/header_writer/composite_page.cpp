@@ -72,11 +72,11 @@ operation fails. The msg argument is not used and may be null.
 How they nest, from those that are in no other one; messages hold composites of any level:
 )";
 
-void addNesting(std::string &lines, const Catalogue &catalogue, const Composite &row,
-                size_t indent) {
+void add_nesting(std::string &lines, const Catalogue &catalogue, const Composite &row,
+                 size_t indent) {
     lines += std::string(indent, ' ') + row.name + "\n";
     for (const std::string &child : row.composites())
-        addNesting(lines, catalogue, catalogue.composite(child), indent + 2);
+        add_nesting(lines, catalogue, catalogue.composite(child), indent + 2);
 }
 
 std::string nesting(const Catalogue &catalogue) {
@@ -87,11 +87,11 @@ std::string nesting(const Catalogue &catalogue) {
     std::string lines = "\n";
     for (const Composite &row : catalogue.composites)
         if (inner.count(row.name) == 0)
-            addNesting(lines, catalogue, row, 2);
+            add_nesting(lines, catalogue, row, 2);
     return lines;
 }
 
-std::string ruleText(UnpackRule rule) {
+std::string rule_text(UnpackRule rule) {
     return rule == UnpackRule::refuseUncalled
                ? "\nUnpacking fails if a conditional child is missing although its condition "
                  "holds, and also if one stands there that is invalid or whose condition does not "
@@ -99,39 +99,39 @@ std::string ruleText(UnpackRule rule) {
                : "";
 }
 
-std::string layoutText(const Catalogue &catalogue, const Composite &row) {
-    if (row.isList())
-        return "List of " + countText(row.least, row.greatest) + " " + row.element + " (tag " +
+std::string layout_text(const Catalogue &catalogue, const Composite &row) {
+    if (row.is_list())
+        return "List of " + count_text(row.least, row.greatest) + " " + row.element + " (tag " +
                std::to_string(catalogue.composite(row.element).tag) + ").";
-    return "Sequence of:\n\n" + slotTable(catalogue, row.slots) + ruleText(row.rule);
+    return "Sequence of:\n\n" + slot_table(catalogue, row.slots) + rule_text(row.rule);
 }
 
-void writeTypes(Page &page, const Composite &row) {
+void write_types(Page &page, const Composite &row) {
     page.constants({{"Tarn" + row.name + "Tag", std::to_string(row.tag)}});
     page.structure("Tarn" + row.name + "Ie", {{"TarnIe ie", ""}, {"VelDllHead children", ""}});
     std::vector<Member> members;
-    if (row.isList()) {
+    if (row.is_list()) {
         const std::string array = "[" + std::to_string(row.greatest) + "]";
         members = {{"uint16_t count", ""}, {"Tarn" + row.element + "Record items" + array, ""}};
     } else {
-        addSlotMembers(members, row.slots);
+        add_slot_members(members, row.slots);
     }
     page.structure("Tarn" + row.name + "Record", members);
-    if (!row.isList())
-        page.constants(presenceConstants(row.name, row.slots));
+    if (!row.is_list())
+        page.constants(presence_constants(row.name, row.slots));
 }
 
-std::vector<Slot> childrenOf(const Composite &row) {
-    if (!row.isList())
+std::vector<Slot> children_of(const Composite &row) {
+    if (!row.is_list())
         return row.slots;
     return {{row.element, row.element, Presence::repeated, "always", true, false}};
 }
 
-void writeOperations(Page &page, const Composite &row) {
+void write_operations(Page &page, const Composite &row) {
     const std::string type = "Tarn" + row.name + "Ie";
     page.function(type + " *", "TarnNew" + row.name + "Ie", {},
                   "returns a new " + row.name + " without children, owned by the caller.");
-    writeSlotOperations(page, childrenOf(row), {row.name + "Ie", type + " *ie", "child"});
+    write_slot_operations(page, children_of(row), {row.name + "Ie", type + " *ie", "child"});
     page.function(
         "uint32_t", "TarnPack" + row.name + "Ie",
         {"const " + type + " *ie", "uint8_t *buffer", "uint32_t available", "uint32_t *written"},
@@ -147,21 +147,21 @@ void writeOperations(Page &page, const Composite &row) {
 
 } // namespace
 
-Page compositeHeader(const Catalogue &catalogue) {
+Page composite_header(const Catalogue &catalogue) {
     Page page;
-    page.beginHeader("TARN_IF_COMPOSITE_IES_H", contract + nesting(catalogue),
-                     {"tarn_if_primitive_ies.h"});
+    page.begin_header("TARN_IF_COMPOSITE_IES_H", contract + nesting(catalogue),
+                      {"tarn_if_primitive_ies.h"});
     for (const Composite &row : catalogue.composites) {
         page.entry(row.name + ", tag " + std::to_string(row.tag),
-                   row.term + ".\n\n" + layoutText(catalogue, row));
-        writeTypes(page, row);
-        writeOperations(page, row);
+                   row.term + ".\n\n" + layout_text(catalogue, row));
+        write_types(page, row);
+        write_operations(page, row);
     }
     page.entry("Conditions among children",
                "What decides whether a conditional child must be there or must not be there. The "
                "msg argument is not used and may be null; a null ie is fatal.");
-    writePredicates(page, catalogue, true);
-    page.endHeader();
+    write_predicates(page, catalogue, true);
+    page.end_header();
     return page;
 }
 

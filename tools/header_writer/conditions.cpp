@@ -12,7 +12,7 @@ std::string enumeration(const std::vector<std::string> &names) {
 }
 
 template <typename Owner>
-std::string decidedSlots(const std::vector<Owner> &owners, const std::string &condition) {
+std::string decided_slots(const std::vector<Owner> &owners, const std::string &condition) {
     std::string text;
     for (const Owner &owner : owners) {
         std::vector<std::string> members;
@@ -27,19 +27,19 @@ std::string decidedSlots(const std::vector<Owner> &owners, const std::string &co
 
 std::string decides(const Catalogue &catalogue, const Condition &row) {
     const std::string text =
-        decidedSlots(catalogue.messages, row.name) + decidedSlots(catalogue.composites, row.name);
+        decided_slots(catalogue.messages, row.name) + decided_slots(catalogue.composites, row.name);
     return text.empty() ? " No rule of the library asks it." : text;
 }
 
 } // namespace
 
-void writePredicates(Page &page, const Catalogue &catalogue, bool amongChildren) {
+void write_predicates(Page &page, const Catalogue &catalogue, bool amongChildren) {
     for (const Condition &row : catalogue.conditions) {
         if (row.amongChildren != amongChildren)
             continue;
         std::vector<std::string> parameters = {"const TarnMsg *msg"};
         if (amongChildren)
-            parameters.push_back("const Tarn" + catalogue.ownerOf(row).name + "Ie *ie");
+            parameters.push_back("const Tarn" + catalogue.owner_of(row).name + "Ie *ie");
         page.function("uint32_t", row.predicate, parameters,
                       "returns 1 if " + row.meaning + ", and 0 if not or if there is no " + row.ie +
                           "." + decides(catalogue, row));

@@ -58,7 +58,7 @@ Threads. There are no locks. Use an object in one thread at a time, also for ext
 what it took. Different objects may be used at once if the host's memory service allows it.
 )";
 
-void writeDecoding(Page &page) {
+void write_decoding(Page &page) {
     page.function("uint32_t", "TarnGetMessageId", {"const uint8_t *buffer", "uint32_t length"},
                   "returns the id of the message at buffer, or 0 if it does not begin with a "
                   "well-formed MessageId IE. It looks at nothing behind that IE. A null buffer is "
@@ -71,7 +71,7 @@ void writeDecoding(Page &page) {
                   "message knows are ignored. A null msg or buffer is fatal.");
 }
 
-void writePrimitives(Page &page) {
+void write_primitives(Page &page) {
     const std::string in = "const uint8_t *buffer";
     const std::string out = "uint8_t *buffer";
     const std::string available = "uint32_t available";
@@ -91,20 +91,20 @@ void writePrimitives(Page &page) {
 
 } // namespace
 
-Page coreHeader() {
+Page core_header() {
     Page page;
-    page.beginHeader("TARN_IF_H", contract,
-                     {"tarn_if_composite_ies.h", "tarn_if_messages.h", "tarn_if_objects.h",
-                      "tarn_if_primitive_ies.h"});
+    page.begin_header("TARN_IF_H", contract,
+                      {"tarn_if_composite_ies.h", "tarn_if_messages.h", "tarn_if_objects.h",
+                       "tarn_if_primitive_ies.h"});
     page.section("Decoding a message of any type");
-    writeDecoding(page);
+    write_decoding(page);
     page.section("Tags and lengths in a buffer");
-    writePrimitives(page);
+    write_primitives(page);
     page.section("Version");
     page.function("const char *", "TarnGetInterfaceVersion", {},
                   "returns the version of this interface, \"39\", always at the same address: a "
                   "constant, not to be modified or freed.");
-    page.endHeader();
+    page.end_header();
     return page;
 }
 

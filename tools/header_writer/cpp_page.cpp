@@ -111,11 +111,11 @@ void Writer::members(const std::vector<Slot> &slots) {
 }
 
 void Writer::optional_functions(const std::vector<Slot> &slots) {
-    const std::vector<uint32_t> bits = presenceBits(slots);
+    const std::vector<uint32_t> bits = presence_bits(slots);
     for (size_t i = 0; i < slots.size(); ++i) {
         if (bits[i] == 0)
             continue;
-        const std::string body = "return {" + slots[i].member + "_, presence, " + bitText(bits[i]);
+        const std::string body = "return {" + slots[i].member + "_, presence, " + bit_text(bits[i]);
         for (const std::string &constness : {std::string(), std::string("const ")}) {
             head("OptionalMember<" + constness + type_in_record(slots[i]) + ">",
                  slots[i].member + "() " + constness + "{");
@@ -128,7 +128,7 @@ void Writer::optional_functions(const std::vector<Slot> &slots) {
 void Writer::composite_records() {
     for (const Composite &row : catalogue_.composites) {
         page_.comment(row.term + ".");
-        if (row.isList()) {
+        if (row.is_list()) {
             page_.line("using " + row.name + " = List<" + row.element + ", std::uint16_t, " +
                        std::to_string(row.greatest) + ">;");
             page_.line();
@@ -149,7 +149,7 @@ void Writer::message_records() {
         page_.line("    static constexpr std::uint8_t id = Tarn" + row.name + "MsgId;");
         page_.line("    static constexpr const char *name = \"" + row.name + "\";");
         page_.line("    static constexpr std::uint32_t max_size = " +
-                   std::to_string(greatestBuiltSize(catalogue_, row)) + ";");
+                   std::to_string(greatest_built_size(catalogue_, row)) + ";");
         page_.line("    using CRecord = Tarn" + row.name + "Record;");
         wrapped("    static constexpr auto c_build = ", "TarnBuild" + row.name + "Msg;");
         wrapped("    static constexpr auto c_get = ", "TarnGet" + row.name + "Msg;");
@@ -219,7 +219,7 @@ void Writer::composite_objects() {
         page_.line("    bool is_valid() const {");
         page_.line("        return TarnIs" + ie + "Valid(nullptr, handle_) != 0;");
         page_.line("    }");
-        if (row.isList())
+        if (row.is_list())
             composite_operations(row.element, ie, true);
         else
             operations(row.slots, ie);
@@ -262,7 +262,7 @@ void Writer::by_id(const std::string &head, const std::string &before, const std
 
 } // namespace
 
-std::string cppHeader(const Catalogue &catalogue) {
+std::string cpp_header(const Catalogue &catalogue) {
     Page page;
     page.notice();
     page.comment(prose);

@@ -38,7 +38,7 @@ private:
 };
 
 // The name of the form in which people read a type's bytes; empty for plain numbers and hex.
-std::string formName(const std::string &type) {
+std::string form_name(const std::string &type) {
 #define FORM(type_, form_)                                                                         \
     if (type == #type_)                                                                            \
         return #form_;
@@ -46,7 +46,7 @@ std::string formName(const std::string &type) {
     return "";
 }
 
-std::string shapeName(Shape shape) {
+std::string shape_name(Shape shape) {
     switch (shape) {
     case Shape::scalar:
         return "scalar";
@@ -60,7 +60,7 @@ std::string shapeName(Shape shape) {
     return "";
 }
 
-std::string presenceName(Presence presence) {
+std::string presence_name(Presence presence) {
     switch (presence) {
     case Presence::mandatory:
         return "mandatory";
@@ -74,7 +74,7 @@ std::string presenceName(Presence presence) {
     return "";
 }
 
-std::string ruleName(UnpackRule rule) {
+std::string rule_name(UnpackRule rule) {
     switch (rule) {
     case UnpackRule::none:
         return "none";
@@ -88,19 +88,19 @@ std::string ruleName(UnpackRule rule) {
     return "";
 }
 
-std::string namesText(const std::vector<std::string> &names) {
+std::string names_text(const std::vector<std::string> &names) {
     std::string text;
     for (const std::string &name : names)
         text += (text.empty() ? "" : ", ") + Row::quoted(name);
     return "{ " + text + " }";
 }
 
-std::string slotsText(const std::vector<Slot> &slots) {
+std::string slots_text(const std::vector<Slot> &slots) {
     std::string text = "{";
     for (const Slot &slot : slots) {
         Row row;
         row.text("name", slot.member).text("type", slot.child);
-        row.text("presence", presenceName(slot.presence));
+        row.text("presence", presence_name(slot.presence));
         if (slot.condition != "always")
             row.text("condition", slot.condition);
         text += "\n      " + row.str() + ",";
@@ -108,42 +108,42 @@ std::string slotsText(const std::vector<Slot> &slots) {
     return text + "\n    }";
 }
 
-std::string primitiveRow(const Primitive &row) {
+std::string primitive_row(const Primitive &row) {
     Row text;
-    text.text("name", row.name).number("tag", row.tag).text("shape", shapeName(row.shape));
+    text.text("name", row.name).number("tag", row.tag).text("shape", shape_name(row.shape));
     if (row.shape == Shape::scalar)
         text.number("width", row.width);
     if (row.shape == Shape::bytes || row.shape == Shape::list)
         text.number("capacity", row.capacity);
     if (row.shape == Shape::record)
-        text.raw("members", namesText(row.members));
+        text.raw("members", names_text(row.members));
     else
         text.number("least", row.least).number("greatest", row.greatest);
     if (row.shape == Shape::list)
         text.text("item", row.members.front());
-    if (const std::string form = formName(row.name); !form.empty())
+    if (const std::string form = form_name(row.name); !form.empty())
         text.text("form", form);
     return text.text("term", row.term).str();
 }
 
-std::string compositeRow(const Composite &row) {
+std::string composite_row(const Composite &row) {
     Row text;
     text.text("name", row.name).number("tag", row.tag);
-    text.text("shape", row.isList() ? "compositeList" : "sequence").text("term", row.term);
-    if (row.isList())
+    text.text("shape", row.is_list() ? "compositeList" : "sequence").text("term", row.term);
+    if (row.is_list())
         text.text("item", row.element).number("least", row.least).number("greatest", row.greatest);
     else
-        text.text("rule", ruleName(row.rule)).raw("slots", slotsText(row.slots));
+        text.text("rule", rule_name(row.rule)).raw("slots", slots_text(row.slots));
     return text.str();
 }
 
-std::string messageRow(const Message &row) {
+std::string message_row(const Message &row) {
     Row text;
     text.text("name", row.name).number("id", row.id).text("term", row.term);
-    return text.text("rule", ruleName(row.rule)).raw("slots", slotsText(row.slots)).str();
+    return text.text("rule", rule_name(row.rule)).raw("slots", slots_text(row.slots)).str();
 }
 
-std::string conditionRow(const Condition &row) {
+std::string condition_row(const Condition &row) {
     std::string values;
     for (uint32_t value = 0; value < 32; ++value)
         if ((row.values >> value & 1) != 0)
@@ -154,7 +154,7 @@ std::string conditionRow(const Condition &row) {
 }
 
 // The sentences of findings.
-std::string reasonRows() {
+std::string reason_rows() {
     std::string text;
 #define REASON(name_, sentence_) text += "    " #name_ " = " + Row::quoted(sentence_) + ",\n";
 #include "tarn_info_reasons.def"
@@ -162,31 +162,31 @@ std::string reasonRows() {
 }
 
 // The most bytes that any message can take.
-uint32_t greatestMessageSize(const Catalogue &catalogue) {
+uint32_t greatest_message_size(const Catalogue &catalogue) {
     uint32_t greatest = 0;
     for (const Message &row : catalogue.messages)
-        greatest = std::max(greatest, greatestBuiltSize(catalogue, row));
+        greatest = std::max(greatest, greatest_built_size(catalogue, row));
     return greatest;
 }
 
 } // namespace
 
-std::string luaRows(const Catalogue &catalogue) {
+std::string lua_rows(const Catalogue &catalogue) {
     std::string text = std::string(introduction) + "local rows = {\n";
-    text += "  largestMessage = " + std::to_string(greatestMessageSize(catalogue)) + ",\n";
+    text += "  largestMessage = " + std::to_string(greatest_message_size(catalogue)) + ",\n";
     text += "  types = {\n";
     for (const Primitive &row : catalogue.primitives)
         if (row.form != Form::free)
-            text += "    " + primitiveRow(row) + ",\n";
+            text += "    " + primitive_row(row) + ",\n";
     for (const Composite &row : catalogue.composites)
-        text += "    " + compositeRow(row) + ",\n";
+        text += "    " + composite_row(row) + ",\n";
     text += "  },\n  messages = {\n";
     for (const Message &row : catalogue.messages)
-        text += "    " + messageRow(row) + ",\n";
+        text += "    " + message_row(row) + ",\n";
     text += "  },\n  conditions = {\n";
     for (const Condition &row : catalogue.conditions)
-        text += "    " + row.name + " = " + conditionRow(row) + ",\n";
-    return text + "  },\n  reasons = {\n" + reasonRows() + "  },\n}\n\n";
+        text += "    " + row.name + " = " + condition_row(row) + ",\n";
+    return text + "  },\n  reasons = {\n" + reason_rows() + "  },\n}\n\n";
 }
 
 } // namespace header_writer

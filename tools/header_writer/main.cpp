@@ -22,7 +22,7 @@ struct File {
     std::string content;
 };
 
-std::string exportList(std::vector<std::string> names) {
+std::string export_list(std::vector<std::string> names) {
     std::sort(names.begin(), names.end());
     if (std::adjacent_find(names.begin(), names.end()) != names.end())
         throw std::runtime_error("a function stands twice in the headers");
@@ -32,19 +32,19 @@ std::string exportList(std::vector<std::string> names) {
     return text;
 }
 
-std::string contentOf(const std::filesystem::path &path) {
+std::string content_of(const std::filesystem::path &path) {
     std::ifstream stream(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 
-std::vector<File> allFiles(const std::filesystem::path &root) {
-    const header_writer::Catalogue catalogue = header_writer::readCatalogue();
+std::vector<File> all_files(const std::filesystem::path &root) {
+    const header_writer::Catalogue catalogue = header_writer::read_catalogue();
     const std::vector<std::pair<std::string, Page>> headers = {
-        {"include/tarn_if.h", header_writer::coreHeader()},
-        {"include/tarn_if_objects.h", header_writer::objectsHeader()},
-        {"include/tarn_if_primitive_ies.h", header_writer::primitiveHeader(catalogue)},
-        {"include/tarn_if_composite_ies.h", header_writer::compositeHeader(catalogue)},
-        {"include/tarn_if_messages.h", header_writer::messageHeader(catalogue)},
+        {"include/tarn_if.h", header_writer::core_header()},
+        {"include/tarn_if_objects.h", header_writer::objects_header()},
+        {"include/tarn_if_primitive_ies.h", header_writer::primitive_header(catalogue)},
+        {"include/tarn_if_composite_ies.h", header_writer::composite_header(catalogue)},
+        {"include/tarn_if_messages.h", header_writer::message_header(catalogue)},
     };
     std::vector<File> files;
     std::vector<std::string> functions;
@@ -52,22 +52,22 @@ std::vector<File> allFiles(const std::filesystem::path &root) {
         files.push_back({path, page.text()});
         functions.insert(functions.end(), page.functions().begin(), page.functions().end());
     }
-    files.push_back({"cmake/exports.txt", exportList(functions)});
-    files.push_back({"include/tarn.hpp", header_writer::cppHeader(catalogue)});
-    files.push_back({"python/tarn/_rows.py", header_writer::pythonRows(catalogue)});
-    files.push_back({"python/tarn/__init__.pyi", header_writer::pythonTypes(catalogue)});
-    files.push_back({"docs/reference.md", header_writer::referenceTables(catalogue)});
+    files.push_back({"cmake/exports.txt", export_list(functions)});
+    files.push_back({"include/tarn.hpp", header_writer::cpp_header(catalogue)});
+    files.push_back({"python/tarn/_rows.py", header_writer::python_rows(catalogue)});
+    files.push_back({"python/tarn/__init__.pyi", header_writer::python_types(catalogue)});
+    files.push_back({"docs/reference.md", header_writer::reference_tables(catalogue)});
     // The plugin is one file, since Wireshark loads each of its plugins by itself.
-    files.push_back({"wireshark/tarn.lua", header_writer::luaRows(catalogue) +
-                                               contentOf(root / "wireshark/engine.lua") +
-                                               contentOf(root / "wireshark/plugin.lua")});
+    files.push_back({"wireshark/tarn.lua", header_writer::lua_rows(catalogue) +
+                                               content_of(root / "wireshark/engine.lua") +
+                                               content_of(root / "wireshark/plugin.lua")});
     return files;
 }
 
 int check(const std::filesystem::path &root, const std::vector<File> &files) {
     bool same = true;
     for (const File &file : files) {
-        if (contentOf(root / file.path) == file.content)
+        if (content_of(root / file.path) == file.content)
             continue;
         same = false;
         std::cerr << file.path << " differs from the rows in src/catalogue\n";
@@ -99,7 +99,7 @@ int run(std::vector<std::string> arguments) {
         return 2;
     }
     const std::filesystem::path root = arguments.empty() ? "." : arguments.front();
-    return checking ? check(root, allFiles(root)) : write(root, allFiles(root));
+    return checking ? check(root, all_files(root)) : write(root, all_files(root));
 }
 
 } // namespace

@@ -82,7 +82,7 @@ std::string index(const Catalogue &catalogue) {
     return lines;
 }
 
-std::string ruleText(UnpackRule rule) {
+std::string rule_text(UnpackRule rule) {
     switch (rule) {
     case UnpackRule::none:
         return "";
@@ -100,7 +100,7 @@ std::string ruleText(UnpackRule rule) {
     return "";
 }
 
-std::string repetitionText(const Message &row) {
+std::string repetition_text(const Message &row) {
     for (const Slot &slot : row.slots)
         if (slot.presence == Presence::repeated)
             return "Any number of " + slot.child +
@@ -109,39 +109,39 @@ std::string repetitionText(const Message &row) {
     return "";
 }
 
-std::string memoryText(const Catalogue &catalogue, const Message &row) {
-    const uint32_t bytes = recordMemory(catalogue, row);
+std::string memory_text(const Catalogue &catalogue, const Message &row) {
+    const uint32_t bytes = record_memory(catalogue, row);
     if (bytes < 2048)
         return "";
     return " The record takes about " + std::to_string((bytes + 512) / 1024) +
            " KiB of the caller's memory.";
 }
 
-void writeEntry(Page &page, const Catalogue &catalogue, const Message &row) {
+void write_entry(Page &page, const Catalogue &catalogue, const Message &row) {
     page.entry(row.name + ", id " + std::to_string(row.id),
-               row.term + ".\n\n" + slotTable(catalogue, row.slots) + "\n" + repetitionText(row) +
-                   ruleText(row.rule) + "Build writes " +
-                   std::to_string(greatestBuiltSize(catalogue, row)) + " bytes at most." +
-                   memoryText(catalogue, row));
+               row.term + ".\n\n" + slot_table(catalogue, row.slots) + "\n" + repetition_text(row) +
+                   rule_text(row.rule) + "Build writes " +
+                   std::to_string(greatest_built_size(catalogue, row)) + " bytes at most." +
+                   memory_text(catalogue, row));
 }
 
-void writeRecord(Page &page, const Message &row) {
+void write_record(Page &page, const Message &row) {
     std::vector<Member> members = {{"uint8_t MessageId", ""}};
-    addSlotMembers(members, row.slots);
+    add_slot_members(members, row.slots);
     page.structure("Tarn" + row.name + "Record", members);
-    page.constants(presenceConstants(row.name, row.slots));
+    page.constants(presence_constants(row.name, row.slots));
 }
 
 const std::vector<Slot> messageId = {
     {"MessageId", "MessageId", Presence::mandatory, "always", false, false}};
 
-void writeObjectOperations(Page &page, const Message &row) {
+void write_object_operations(Page &page, const Message &row) {
     const std::string msg = row.name + "Msg";
     const Parent parent = {msg, "TarnMsg *msg", "ie"};
     page.function("TarnMsg *", "TarnNew" + msg, {},
                   "returns a new message that holds its MessageId, owned by the caller.");
-    writeSlotOperations(page, messageId, parent);
-    writeSlotOperations(page, row.slots, parent);
+    write_slot_operations(page, messageId, parent);
+    write_slot_operations(page, row.slots, parent);
     page.function("uint32_t", "TarnIs" + msg + "Valid", {"const TarnMsg *msg"},
                   "returns 1 if msg is a valid " + row.name + ", and 0 otherwise.");
     page.function("uint32_t", "TarnPack" + msg,
@@ -151,7 +151,7 @@ void writeObjectOperations(Page &page, const Message &row) {
                   "returns a new message read from buffer, owned by the caller, or null.");
 }
 
-void writeRecordOperations(Page &page, const Message &row) {
+void write_record_operations(Page &page, const Message &row) {
     const std::string msg = row.name + "Msg";
     const std::string record = "Tarn" + row.name + "Record *record";
     page.function("uint32_t", "TarnBuild" + msg,
@@ -163,22 +163,22 @@ void writeRecordOperations(Page &page, const Message &row) {
 
 } // namespace
 
-Page messageHeader(const Catalogue &catalogue) {
+Page message_header(const Catalogue &catalogue) {
     Page page;
-    page.beginHeader("TARN_IF_MESSAGES_H", contract + index(catalogue),
-                     {"tarn_if_composite_ies.h"});
+    page.begin_header("TARN_IF_MESSAGES_H", contract + index(catalogue),
+                      {"tarn_if_composite_ies.h"});
     for (const Message &row : catalogue.messages) {
-        writeEntry(page, catalogue, row);
+        write_entry(page, catalogue, row);
         page.constants({{"Tarn" + row.name + "MsgId", std::to_string(row.id)}});
-        writeRecord(page, row);
-        writeObjectOperations(page, row);
-        writeRecordOperations(page, row);
+        write_record(page, row);
+        write_object_operations(page, row);
+        write_record_operations(page, row);
     }
     page.entry("Conditions in messages",
                "What decides whether a conditional IE must be there or must not be there. A null "
                "msg is fatal.");
-    writePredicates(page, catalogue, false);
-    page.endHeader();
+    write_predicates(page, catalogue, false);
+    page.end_header();
     return page;
 }
 

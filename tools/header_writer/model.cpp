@@ -6,7 +6,7 @@
 namespace header_writer {
 namespace {
 
-std::vector<Primitive> readPrimitives() {
+std::vector<Primitive> read_primitives() {
     std::vector<Primitive> rows;
 #define SCALAR_ROW(form_, name_, tag_, type_, width_, least_, greatest_, term_)                    \
     rows.push_back(                                                                                \
@@ -52,7 +52,7 @@ std::vector<Primitive> readPrimitives() {
 #define SECOND_SLOT_ROW(child_, member_, presence_, condition_)                                    \
     rows.back().slots.push_back({#child_, #member_, Presence::presence_, #condition_, false, true});
 
-std::vector<Composite> readComposites() {
+std::vector<Composite> read_composites() {
     std::vector<Composite> rows;
 #define SEQUENCE(name_, tag_, rule_, term_)                                                        \
     rows.push_back({#name_, tag_, term_, UnpackRule::rule_, {}, "", 0, 0});
@@ -68,7 +68,7 @@ std::vector<Composite> readComposites() {
     return rows;
 }
 
-std::vector<Message> readMessages() {
+std::vector<Message> read_messages() {
     std::vector<Message> rows;
 #define MESSAGE(name_, id_, rule_, append_token_, validity_token_, pack_token_, term_)             \
     rows.push_back(                                                                                \
@@ -83,7 +83,7 @@ std::vector<Message> readMessages() {
     return rows;
 }
 
-std::vector<Condition> readConditions() {
+std::vector<Condition> read_conditions() {
     constexpr bool inside = true;
     constexpr bool outside = false;
     std::vector<Condition> rows;
@@ -123,7 +123,7 @@ void place(const Row &row, const std::vector<Row> &rows, std::set<std::string> &
 
 // Keeps the rows' own order wherever what a row is made of allows it.
 template <typename Row>
-std::vector<Row> dependenciesFirst(const std::vector<Row> &rows) {
+std::vector<Row> dependencies_first(const std::vector<Row> &rows) {
     std::set<std::string> placed;
     std::vector<Row> ordered;
     for (const Row &row : rows)
@@ -134,7 +134,7 @@ std::vector<Row> dependenciesFirst(const std::vector<Row> &rows) {
 } // namespace
 
 std::vector<std::string> Composite::composites() const {
-    if (isList())
+    if (is_list())
         return {element};
     std::vector<std::string> names;
     for (const Slot &slot : slots)
@@ -155,18 +155,18 @@ const Condition &Catalogue::condition(const std::string &name) const {
     return find(conditions, name);
 }
 
-uint32_t Catalogue::tagOf(const Slot &slot) const {
+uint32_t Catalogue::tag_of(const Slot &slot) const {
     return slot.composite ? composite(slot.child).tag : primitive(slot.child).tag;
 }
 
-const Primitive &Catalogue::listOf(const Primitive &item) const {
+const Primitive &Catalogue::list_of(const Primitive &item) const {
     for (const Primitive &row : primitives)
         if (row.shape == Shape::list && row.members.front() == item.name)
             return row;
     throw std::runtime_error("no list has items of " + item.name);
 }
 
-const Composite &Catalogue::ownerOf(const Condition &condition) const {
+const Composite &Catalogue::owner_of(const Condition &condition) const {
     for (const Composite &row : composites)
         for (const Slot &slot : row.slots)
             if (slot.condition == condition.name)
@@ -174,12 +174,12 @@ const Composite &Catalogue::ownerOf(const Condition &condition) const {
     throw std::runtime_error("no composite has a slot under the condition " + condition.name);
 }
 
-Catalogue readCatalogue() {
-    return {dependenciesFirst(readPrimitives()), dependenciesFirst(readComposites()),
-            readMessages(), readConditions()};
+Catalogue read_catalogue() {
+    return {dependencies_first(read_primitives()), dependencies_first(read_composites()),
+            read_messages(), read_conditions()};
 }
 
-std::vector<uint32_t> presenceBits(const std::vector<Slot> &slots) {
+std::vector<uint32_t> presence_bits(const std::vector<Slot> &slots) {
     std::vector<uint32_t> bits;
     uint32_t next = 0x80;
     for (const Slot &slot : slots) {

@@ -52,7 +52,7 @@ struct Composite {
     uint32_t least;          // list: elements that validate
     uint32_t greatest;
 
-    bool isList() const { return !element.empty(); }
+    bool is_list() const { return !element.empty(); }
     // The names of the composites among its children.
     std::vector<std::string> composites() const;
 };
@@ -87,17 +87,17 @@ struct Catalogue {
     const Primitive &primitive(const std::string &name) const;
     const Composite &composite(const std::string &name) const;
     const Condition &condition(const std::string &name) const;
-    uint32_t tagOf(const Slot &slot) const;
+    uint32_t tag_of(const Slot &slot) const;
     // The list whose items are of this type.
-    const Primitive &listOf(const Primitive &item) const;
+    const Primitive &list_of(const Primitive &item) const;
     // The one composite that has a slot under this condition.
-    const Composite &ownerOf(const Condition &condition) const;
+    const Composite &owner_of(const Condition &condition) const;
 };
 
-Catalogue readCatalogue();
+Catalogue read_catalogue();
 
 // The bit of each slot in its owner's presence mask, 0 for a mandatory slot.
-std::vector<uint32_t> presenceBits(const std::vector<Slot> &slots);
+std::vector<uint32_t> presence_bits(const std::vector<Slot> &slots);
 
 } // namespace header_writer
 

@@ -28,7 +28,7 @@ Nothing is unlinked, and the message can still be packed. The two reset operatio
 away.
 )";
 
-void writeLifecycle(Page &page) {
+void write_lifecycle(Page &page) {
     page.function("void", "TarnDeleteIe", {"TarnIe *ie"},
                   "releases ie and, if it is composite, all IE objects below it. It does not "
                   "unlink ie: only an object that was never appended may be deleted. A null ie is "
@@ -39,7 +39,7 @@ void writeLifecycle(Page &page) {
                   "returns the tag of ie. A null ie is fatal.");
 }
 
-void writeHistory(Page &page) {
+void write_history(Page &page) {
     page.function("void", "TarnResetIeExtractHistory", {"TarnIe *ie"},
                   "marks ie and, if it is composite, all IE objects below it as not yet extracted. "
                   "A null ie is fatal.");
@@ -48,7 +48,7 @@ void writeHistory(Page &page) {
                   "fatal.");
 }
 
-void writeSizes(Page &page) {
+void write_sizes(Page &page) {
     page.function("uint32_t", "TarnSizeOfIe", {"const TarnIe *ie"},
                   "returns the bytes that ie takes on the wire, its 6-byte header included; 6 for "
                   "a tag that no IE has. A null ie is fatal.");
@@ -61,9 +61,9 @@ void writeSizes(Page &page) {
 
 } // namespace
 
-Page objectsHeader() {
+Page objects_header() {
     Page page;
-    page.beginHeader("TARN_IF_OBJECTS_H", contract, {"vel_platform.h"});
+    page.begin_header("TARN_IF_OBJECTS_H", contract, {"vel_platform.h"});
     page.comment("The head of every IE object. Written by the library; a caller that makes an IE "
                  "object of its own sets the tag.");
     page.structure("TarnIe", {{"VelDllNode node", "linkage in the parent's list"},
@@ -73,12 +73,12 @@ Page objectsHeader() {
     page.structure("TarnMsg", {{"VelDllHead ies", "the IE objects, in wire order"},
                                {"uint16_t messageId", "equal to the value of the MessageId IE"}});
     page.section("Deletion and tags");
-    writeLifecycle(page);
+    write_lifecycle(page);
     page.section("Extract history");
-    writeHistory(page);
+    write_history(page);
     page.section("Sizes and kinds");
-    writeSizes(page);
-    page.endHeader();
+    write_sizes(page);
+    page.end_header();
     return page;
 }
 

@@ -9,7 +9,7 @@ namespace {
 
 constexpr size_t pageWidth = 100;
 
-std::vector<std::string> splitLines(std::string_view text) {
+std::vector<std::string> split_lines(std::string_view text) {
     std::istringstream stream{std::string(text)};
     std::vector<std::string> lines;
     for (std::string line; std::getline(stream, line);)
@@ -19,7 +19,7 @@ std::vector<std::string> splitLines(std::string_view text) {
 
 constexpr size_t commentMargin = 3; // "/* ", " * " and the " */" at the end
 
-void wrapInto(std::vector<std::string> &lines, const std::string &paragraph) {
+void wrap_into(std::vector<std::string> &lines, const std::string &paragraph) {
     std::istringstream words(paragraph);
     std::string line;
     for (std::string word; words >> word;) {
@@ -33,14 +33,14 @@ void wrapInto(std::vector<std::string> &lines, const std::string &paragraph) {
         lines.push_back(line);
 }
 
-bool isKept(const std::string &line) {
+bool is_kept(const std::string &line) {
     return !line.empty() && line.front() == ' ';
 }
 
 // Leaves room behind the last word for the end of the comment.
-void leaveRoom(std::vector<std::string> &lines) {
+void leave_room(std::vector<std::string> &lines) {
     std::string &last = lines.back();
-    if (isKept(last) || last.size() + 2 * commentMargin <= pageWidth)
+    if (is_kept(last) || last.size() + 2 * commentMargin <= pageWidth)
         return;
     const size_t space = last.rfind(' ');
     const std::string word = last.substr(space + 1);
@@ -51,17 +51,17 @@ void leaveRoom(std::vector<std::string> &lines) {
 std::vector<std::string> wrapped(std::string_view prose) {
     std::vector<std::string> lines;
     std::string paragraph;
-    for (const std::string &line : splitLines(prose)) {
-        if (!line.empty() && !isKept(line)) {
+    for (const std::string &line : split_lines(prose)) {
+        if (!line.empty() && !is_kept(line)) {
             paragraph += line + " ";
             continue;
         }
-        wrapInto(lines, paragraph);
+        wrap_into(lines, paragraph);
         paragraph.clear();
         lines.push_back(line);
     }
-    wrapInto(lines, paragraph);
-    leaveRoom(lines);
+    wrap_into(lines, paragraph);
+    leave_room(lines);
     return lines;
 }
 
@@ -87,7 +87,7 @@ std::string packed(const std::string &head, const std::vector<std::string> &para
 }
 
 bool fits(const std::string &text) {
-    const std::vector<std::string> lines = splitLines(text);
+    const std::vector<std::string> lines = split_lines(text);
     return std::all_of(lines.begin(), lines.end(),
                        [](const std::string &line) { return line.size() <= pageWidth; });
 }
@@ -105,7 +105,7 @@ std::string prototype(const std::string &result, const std::string &name,
     return fits(lower) ? lower : packed(head + "\n    ", parameters, 4);
 }
 
-std::string ruledTitle(std::string_view title, char rule, size_t width) {
+std::string ruled_title(std::string_view title, char rule, size_t width) {
     const std::string text = "/* " + std::string(4, rule) + " " + std::string(title) + " ";
     return text + std::string(width > text.size() ? width - text.size() : 0, rule);
 }
@@ -120,33 +120,33 @@ void Page::line(std::string_view text) {
 }
 
 void Page::chapter(std::string_view title) {
-    line(ruledTitle(title, '=', pageWidth - 3) + " */");
+    line(ruled_title(title, '=', pageWidth - 3) + " */");
     line();
 }
 
 void Page::section(std::string_view title) {
-    line(ruledTitle(title, '-', pageWidth - 3) + " */");
+    line(ruled_title(title, '-', pageWidth - 3) + " */");
     line();
 }
 
 void Page::entry(std::string_view title, std::string_view prose) {
-    line(ruledTitle(title, '-', pageWidth));
-    endComment(" * ", prose);
+    line(ruled_title(title, '-', pageWidth));
+    end_comment(" * ", prose);
     line();
 }
 
 void Page::comment(std::string_view prose) {
-    endComment("/* ", prose);
+    end_comment("/* ", prose);
 }
 
-void Page::endComment(const std::string &opening, std::string_view prose) {
+void Page::end_comment(const std::string &opening, std::string_view prose) {
     const std::vector<std::string> lines = wrapped(prose);
     for (size_t i = 0; i < lines.size(); ++i) {
         const std::string start = i == 0 ? opening : lines[i].empty() ? " *" : " * ";
         const bool last = i + 1 == lines.size();
-        line(start + lines[i] + (last && !isKept(lines[i]) ? " */" : ""));
+        line(start + lines[i] + (last && !is_kept(lines[i]) ? " */" : ""));
     }
-    if (isKept(lines.back()))
+    if (is_kept(lines.back()))
         line(" */");
 }
 
@@ -195,8 +195,8 @@ void Page::notice() {
     line();
 }
 
-void Page::beginHeader(const std::string &guard, std::string_view prose,
-                       const std::vector<std::string> &includes) {
+void Page::begin_header(const std::string &guard, std::string_view prose,
+                        const std::vector<std::string> &includes) {
     notice();
     comment(prose);
     line("#ifndef " + guard);
@@ -215,7 +215,7 @@ void Page::beginHeader(const std::string &guard, std::string_view prose,
     line();
 }
 
-void Page::endHeader() {
+void Page::end_header() {
     line("#pragma GCC visibility pop");
     line();
     line("#ifdef __cplusplus");

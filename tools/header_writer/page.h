@@ -52,9 +52,9 @@ public:
 
     // What stands at the head and at the foot of every header. The head leaves the page ready for
     // declarations.
-    void beginHeader(const std::string &guard, std::string_view prose,
-                     const std::vector<std::string> &includes);
-    void endHeader();
+    void begin_header(const std::string &guard, std::string_view prose,
+                      const std::vector<std::string> &includes);
+    void end_header();
 
     const std::string &text() const { return text_; }
     // The names of all functions written, in their order on the page.
@@ -62,7 +62,7 @@ public:
 
 private:
     // Writes the rest of a comment whose first line begins with `opening`.
-    void endComment(const std::string &opening, std::string_view prose);
+    void end_comment(const std::string &opening, std::string_view prose);
 
     std::string text_;
     std::vector<std::string> functions_;

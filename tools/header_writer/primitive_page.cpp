@@ -64,25 +64,26 @@ validity read.
 Fatal. Every pointer but the container is required; a null one is reported, and the operation fails.
 )";
 
-std::string withHeader(const Catalogue &catalogue, const Primitive &row) {
-    const WireSize size = valueSize(catalogue, row);
-    return bytesText(size.least + ieHeaderSize, size.greatest + ieHeaderSize);
+std::string with_header(const Catalogue &catalogue, const Primitive &row) {
+    const WireSize size = value_size(catalogue, row);
+    return bytes_text(size.least + ieHeaderSize, size.greatest + ieHeaderSize);
 }
 
-bool isCodeWord(const Primitive &row) {
+bool is_code_word(const Primitive &row) {
     return row.type == "uint32_t" && row.width == 2;
 }
 
-std::string scalarText(const Catalogue &catalogue, const Primitive &row) {
-    const std::string type = isCodeWord(row) ? "A code word" : "A " + row.type;
-    const std::string wire = bytesText(row.width, row.width) + " on the wire";
-    return type + ", " + rangeText(row) + "; " + wire +
-           (row.form == Form::free ? "." : ", " + withHeader(catalogue, row) + " with its header.");
+std::string scalar_text(const Catalogue &catalogue, const Primitive &row) {
+    const std::string type = is_code_word(row) ? "A code word" : "A " + row.type;
+    const std::string wire = bytes_text(row.width, row.width) + " on the wire";
+    return type + ", " + range_text(row) + "; " + wire +
+           (row.form == Form::free ? "."
+                                   : ", " + with_header(catalogue, row) + " with its header.");
 }
 
-std::string structuredText(const Catalogue &catalogue, const Primitive &row) {
+std::string structured_text(const Catalogue &catalogue, const Primitive &row) {
     if (row.shape == Shape::list)
-        return "A list of " + countText(row.least, row.greatest) + " " + row.members.front() +
+        return "A list of " + count_text(row.least, row.greatest) + " " + row.members.front() +
                ", each under tag " + std::to_string(catalogue.primitive(row.members.front()).tag) +
                "; ";
     std::string text = "A record of ";
@@ -92,37 +93,37 @@ std::string structuredText(const Catalogue &catalogue, const Primitive &row) {
     return text + "; ";
 }
 
-std::string valueText(const Catalogue &catalogue, const Primitive &row) {
+std::string value_text(const Catalogue &catalogue, const Primitive &row) {
     if (row.shape == Shape::scalar)
-        return scalarText(catalogue, row);
+        return scalar_text(catalogue, row);
     const std::string wire =
         row.form == Form::free
-            ? bytesText(valueSize(catalogue, row).least, valueSize(catalogue, row).greatest) +
+            ? bytes_text(value_size(catalogue, row).least, value_size(catalogue, row).greatest) +
                   " on the wire."
-            : withHeader(catalogue, row) + " on the wire with its header.";
+            : with_header(catalogue, row) + " on the wire with its header.";
     if (row.shape == Shape::bytes)
-        return "A byte string of " + rangeText(row) + "; " + wire;
-    return structuredText(catalogue, row) + wire;
+        return "A byte string of " + range_text(row) + "; " + wire;
+    return structured_text(catalogue, row) + wire;
 }
 
-std::string formText(const Catalogue &catalogue, const Primitive &row) {
+std::string form_text(const Catalogue &catalogue, const Primitive &row) {
     if (row.form == Form::ie)
         return "";
     if (row.form == Form::free)
         return " It has no tag: no IE, message or other type carries it.";
-    return " It travels only as an item of " + catalogue.listOf(row).name + ".";
+    return " It travels only as an item of " + catalogue.list_of(row).name + ".";
 }
 
-void writeEntry(Page &page, const Catalogue &catalogue, const Primitive &row) {
+void write_entry(Page &page, const Catalogue &catalogue, const Primitive &row) {
     const std::string tag =
         row.form == Form::free
             ? ", no tag"
             : (row.form == Form::item ? ", item tag " : ", tag ") + std::to_string(row.tag);
     page.entry(row.name + tag,
-               row.term + ".\n\n" + valueText(catalogue, row) + formText(catalogue, row));
+               row.term + ".\n\n" + value_text(catalogue, row) + form_text(catalogue, row));
 }
 
-void writeValueType(Page &page, const Primitive &row) {
+void write_value_type(Page &page, const Primitive &row) {
     const std::string type = "Tarn" + row.name;
     const std::string array = "[" + std::to_string(row.capacity) + "]";
     std::vector<Member> members;
@@ -145,28 +146,28 @@ void writeValueType(Page &page, const Primitive &row) {
     page.structure(type, members);
 }
 
-bool hasOneSize(const Catalogue &catalogue, const Primitive &row) {
+bool has_one_size(const Catalogue &catalogue, const Primitive &row) {
     return row.shape == Shape::scalar ||
            (row.shape == Shape::record &&
             std::all_of(row.members.begin(), row.members.end(), [&](const std::string &member) {
-                return hasOneSize(catalogue, catalogue.primitive(member));
+                return has_one_size(catalogue, catalogue.primitive(member));
             }));
 }
 
-std::string sizeText(const Catalogue &catalogue, const Primitive &row) {
+std::string size_text(const Catalogue &catalogue, const Primitive &row) {
     if (row.shape == Shape::bytes)
         return "returns the stored length.";
-    if (hasOneSize(catalogue, row))
-        return "returns " + std::to_string(valueSize(catalogue, row).least) + ".";
+    if (has_one_size(catalogue, row))
+        return "returns " + std::to_string(value_size(catalogue, row).least) + ".";
     return "returns the value's bytes on the wire.";
 }
 
-std::string packText(const Primitive &row) {
+std::string pack_text(const Primitive &row) {
     std::string success = "packs *value and sets *written, returning 1 on success and 0 ";
     const std::string capacity = std::to_string(row.capacity);
     switch (row.shape) {
     case Shape::scalar:
-        return success + "if fewer than " + bytesText(row.width, row.width) + " are available.";
+        return success + "if fewer than " + bytes_text(row.width, row.width) + " are available.";
     case Shape::bytes:
         return success + "if it does not fit or its length is above " + capacity + ".";
     case Shape::record:
@@ -178,7 +179,7 @@ std::string packText(const Primitive &row) {
     return success;
 }
 
-std::string unpackText(const Primitive &row) {
+std::string unpack_text(const Primitive &row) {
     std::string success = "sets *value and *consumed, returning 1 on success and 0 ";
     const std::string capacity = std::to_string(row.capacity);
     switch (row.shape) {
@@ -195,12 +196,12 @@ std::string unpackText(const Primitive &row) {
     return success;
 }
 
-std::string validText(const Primitive &row) {
-    const std::string range = boundText(row.least, row.greatest);
+std::string valid_text(const Primitive &row) {
+    const std::string range = bound_text(row.least, row.greatest);
     switch (row.shape) {
     case Shape::scalar:
-        return takesAnyValue(row) ? "returns 1: every value is valid."
-                                  : "returns 1 if *value is " + range + ", and 0 otherwise.";
+        return takes_any_value(row) ? "returns 1: every value is valid."
+                                    : "returns 1 if *value is " + range + ", and 0 otherwise.";
     case Shape::bytes:
         return "returns 1 if the length is " + range + ", and 0 otherwise.";
     case Shape::record:
@@ -211,21 +212,21 @@ std::string validText(const Primitive &row) {
     return "";
 }
 
-void writeValueOperations(Page &page, const Catalogue &catalogue, const Primitive &row) {
+void write_value_operations(Page &page, const Catalogue &catalogue, const Primitive &row) {
     const std::string type = "Tarn" + row.name;
     const std::string value = "const " + type + " *value";
-    page.function("uint32_t", "TarnSizeOf" + row.name, {value}, sizeText(catalogue, row));
+    page.function("uint32_t", "TarnSizeOf" + row.name, {value}, size_text(catalogue, row));
     page.function("uint32_t", "TarnPack" + row.name,
                   {value, "uint8_t *buffer", "uint32_t available", "uint32_t *written"},
-                  packText(row));
+                  pack_text(row));
     page.function("uint32_t", "TarnUnpack" + row.name,
                   {type + " *value", "uint32_t length", "const uint8_t *buffer",
                    "uint32_t available", "uint32_t *consumed"},
-                  unpackText(row));
-    page.function("uint32_t", "TarnIs" + row.name + "Valid", {value}, validText(row));
+                  unpack_text(row));
+    page.function("uint32_t", "TarnIs" + row.name + "Valid", {value}, valid_text(row));
 }
 
-void writeIeOperations(Page &page, const Primitive &row) {
+void write_ie_operations(Page &page, const Primitive &row) {
     const std::string type = "Tarn" + row.name + "Ie";
     const std::string ie = "const " + type + " *ie";
     page.function("uint32_t", "TarnPack" + row.name + "Ie",
@@ -240,7 +241,7 @@ void writeIeOperations(Page &page, const Primitive &row) {
                       " and a valid value, and 0 otherwise.");
 }
 
-std::string sectionOf(const Primitive &row) {
+std::string section_of(const Primitive &row) {
     if (row.shape == Shape::scalar)
         return "Scalars";
     return row.shape == Shape::bytes ? "Byte strings" : "Records and lists";
@@ -248,27 +249,27 @@ std::string sectionOf(const Primitive &row) {
 
 } // namespace
 
-Page primitiveHeader(const Catalogue &catalogue) {
+Page primitive_header(const Catalogue &catalogue) {
     Page page;
-    page.beginHeader("TARN_IF_PRIMITIVE_IES_H", contract, {"tarn_if_objects.h"});
+    page.begin_header("TARN_IF_PRIMITIVE_IES_H", contract, {"tarn_if_objects.h"});
     std::string section;
     for (const Primitive &row : catalogue.primitives) {
-        if (section != sectionOf(row)) {
-            section = sectionOf(row);
+        if (section != section_of(row)) {
+            section = section_of(row);
             page.chapter(section);
         }
-        writeEntry(page, catalogue, row);
+        write_entry(page, catalogue, row);
         if (row.form == Form::ie)
             page.constants({{"Tarn" + row.name + "Tag", std::to_string(row.tag)}});
-        writeValueType(page, row);
+        write_value_type(page, row);
         if (row.form == Form::ie)
             page.structure("Tarn" + row.name + "Ie",
                            {{"TarnIe ie", ""}, {"Tarn" + row.name + " value", ""}});
-        writeValueOperations(page, catalogue, row);
+        write_value_operations(page, catalogue, row);
         if (row.form == Form::ie)
-            writeIeOperations(page, row);
+            write_ie_operations(page, row);
     }
-    page.endHeader();
+    page.end_header();
     return page;
 }
 

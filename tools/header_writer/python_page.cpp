@@ -56,7 +56,7 @@ std::string primitive_table(const Catalogue &catalogue, const std::string &name,
 }
 
 std::string slots_text(const std::vector<Slot> &slots) {
-    const std::vector<uint32_t> bits = presenceBits(slots);
+    const std::vector<uint32_t> bits = presence_bits(slots);
     std::string text = "(\n";
     for (size_t i = 0; i < slots.size(); ++i)
         text += "        (" + quoted(slots[i].member) + ", " + quoted(slots[i].child) + ", " +
@@ -71,7 +71,7 @@ std::string composite_tables(const Catalogue &catalogue) {
     std::string lists = "# tag, element, least and greatest count\nCOMPOSITE_LISTS = {\n";
     for (const Composite &row : catalogue.composites) {
         const std::string head = "    " + quoted(row.name) + ": (" + std::to_string(row.tag) + ", ";
-        if (row.isList())
+        if (row.is_list())
             lists +=
                 head + quoted(row.element) + ", " + numbers({row.least, row.greatest}) + "),\n";
         else
@@ -85,7 +85,7 @@ std::string message_table(const Catalogue &catalogue) {
                        "# an object may hold more than one\nMESSAGES = {\n";
     for (const Message &row : catalogue.messages)
         text += "    " + quoted(row.name) + ": (" +
-                numbers({row.id, greatestBuiltSize(catalogue, row)}) + ", " +
+                numbers({row.id, greatest_built_size(catalogue, row)}) + ", " +
                 slots_text(row.slots) + "),\n";
     return text + "}\n";
 }
@@ -101,8 +101,8 @@ std::string dictionary_name(const std::string &name) {
 std::string python_type(const Catalogue &catalogue, const std::string &name, bool composite) {
     if (composite) {
         const Composite &row = catalogue.composite(name);
-        return row.isList() ? "Sequence[" + dictionary_name(row.element) + "]"
-                            : dictionary_name(name);
+        return row.is_list() ? "Sequence[" + dictionary_name(row.element) + "]"
+                             : dictionary_name(name);
     }
     const Primitive &row = catalogue.primitive(name);
     switch (row.shape) {
@@ -201,7 +201,7 @@ def read_capture(path: str | os.PathLike[str], tool: str = ...) -> Iterator[Capt
 
 } // namespace
 
-std::string pythonRows(const Catalogue &catalogue) {
+std::string python_rows(const Catalogue &catalogue) {
     return "\"\"\"The protocol as rows.\"\"\"\n\n" + std::string(notice) +
            "INTERFACE_VERSION = \"39\"\n\n" +
            primitive_table(catalogue, "NUMBERS", Shape::scalar,
@@ -214,7 +214,7 @@ std::string pythonRows(const Catalogue &catalogue) {
            composite_tables(catalogue) + message_table(catalogue);
 }
 
-std::string pythonTypes(const Catalogue &catalogue) {
+std::string python_types(const Catalogue &catalogue) {
     std::string text = std::string(notice) + typesHead;
     for (const Primitive &row : catalogue.primitives) {
         if (row.shape != Shape::record)
@@ -225,7 +225,7 @@ std::string pythonTypes(const Catalogue &catalogue) {
         text += "\n";
     }
     for (const Composite &row : catalogue.composites)
-        if (!row.isList())
+        if (!row.is_list())
             text += dictionary(catalogue, row);
     for (const Message &row : catalogue.messages)
         text += message_class(catalogue, row);

@@ -15,9 +15,9 @@ public:
     void add(std::vector<std::string> row) { rows_.push_back(std::move(row)); }
 
     std::string text() const {
-        std::string text = rowText(rows_.front()) + ruleText();
+        std::string text = row_text(rows_.front()) + rule_text();
         for (size_t i = 1; i < rows_.size(); ++i)
-            text += rowText(rows_[i]);
+            text += row_text(rows_[i]);
         return text + "\n";
     }
 
@@ -29,14 +29,14 @@ private:
         return widest;
     }
 
-    std::string rowText(const std::vector<std::string> &row) const {
+    std::string row_text(const std::vector<std::string> &row) const {
         std::string text = "|";
         for (size_t column = 0; column < row.size(); ++column)
             text += " " + padded(row[column], width(column)) + " |";
         return text + "\n";
     }
 
-    std::string ruleText() const {
+    std::string rule_text() const {
         std::string text = "|";
         for (size_t column = 0; column < rows_.front().size(); ++column)
             text += std::string(width(column) + 2, '-') + "|";
@@ -89,46 +89,46 @@ What the one-call Build reports to `velSwTokenDebug`, with value 0, when a step 
 
 )";
 
-std::string slotsText(const Catalogue &catalogue, const std::vector<Slot> &slots) {
-    const std::vector<uint32_t> bits = presenceBits(slots);
+std::string slots_text(const Catalogue &catalogue, const std::vector<Slot> &slots) {
+    const std::vector<uint32_t> bits = presence_bits(slots);
     Table table({"IE", "Tag", "Kind", "Presence", "Mask bit"});
     for (size_t i = 0; i < slots.size(); ++i) {
         const Slot &slot = slots[i];
         table.add({slot.second ? slot.child + ", as " + slot.member : slot.child,
-                   std::to_string(catalogue.tagOf(slot)),
-                   slot.composite ? "composite" : "primitive", presenceText(catalogue, slot),
-                   bits[i] == 0 ? "" : bitText(bits[i])});
+                   std::to_string(catalogue.tag_of(slot)),
+                   slot.composite ? "composite" : "primitive", presence_text(catalogue, slot),
+                   bits[i] == 0 ? "" : bit_text(bits[i])});
     }
     return table.text();
 }
 
-std::string messagesText(const Catalogue &catalogue) {
+std::string messages_text(const Catalogue &catalogue) {
     std::string text = messagesIntroduction;
     Table table({"Id", "Message", "Bytes at most", "Use"});
     for (const Message &row : catalogue.messages)
         table.add({std::to_string(row.id), row.name,
-                   std::to_string(greatestBuiltSize(catalogue, row)), row.term});
+                   std::to_string(greatest_built_size(catalogue, row)), row.term});
     text += table.text();
     for (const Message &row : catalogue.messages)
         text += "### " + std::to_string(row.id) + " " + row.name + "\n\n" +
-                slotsText(catalogue, row.slots);
+                slots_text(catalogue, row.slots);
     return text;
 }
 
-std::string compositesText(const Catalogue &catalogue) {
+std::string composites_text(const Catalogue &catalogue) {
     std::string text = compositesIntroduction;
     for (const Composite &row : catalogue.composites) {
         text +=
             "### " + row.name + ", tag " + std::to_string(row.tag) + "\n\n" + row.term + ".\n\n";
-        text += row.isList()
-                    ? "List of " + countText(row.least, row.greatest) + " " + row.element +
+        text += row.is_list()
+                    ? "List of " + count_text(row.least, row.greatest) + " " + row.element +
                           " (tag " + std::to_string(catalogue.composite(row.element).tag) + ").\n\n"
-                    : slotsText(catalogue, row.slots);
+                    : slots_text(catalogue, row.slots);
     }
     return text;
 }
 
-std::string layoutText(const Catalogue &catalogue, const Primitive &row) {
+std::string layout_text(const Catalogue &catalogue, const Primitive &row) {
     if (row.shape == Shape::scalar)
         return row.type;
     if (row.shape == Shape::bytes)
@@ -140,14 +140,14 @@ std::string layoutText(const Catalogue &catalogue, const Primitive &row) {
     return row.shape == Shape::list ? "items " + text : text;
 }
 
-std::string validText(const Primitive &row) {
+std::string valid_text(const Primitive &row) {
     if (row.shape == Shape::record)
         return "all members";
-    return row.shape == Shape::list ? countText(row.least, row.greatest) + " items"
-                                    : rangeText(row);
+    return row.shape == Shape::list ? count_text(row.least, row.greatest) + " items"
+                                    : range_text(row);
 }
 
-std::string shapeText(Shape shape) {
+std::string shape_text(Shape shape) {
     switch (shape) {
     case Shape::scalar:
         return "scalar";
@@ -161,13 +161,13 @@ std::string shapeText(Shape shape) {
     return "";
 }
 
-std::string tagText(const Primitive &row) {
+std::string tag_text(const Primitive &row) {
     if (row.form == Form::free)
         return "none";
     return std::to_string(row.tag) + (row.form == Form::item ? " (item)" : "");
 }
 
-std::string primitivesText(const Catalogue &catalogue) {
+std::string primitives_text(const Catalogue &catalogue) {
     std::string text = primitivesIntroduction;
     std::vector<Primitive> rows = catalogue.primitives;
     std::stable_sort(rows.begin(), rows.end(), [](const Primitive &left, const Primitive &right) {
@@ -175,27 +175,27 @@ std::string primitivesText(const Catalogue &catalogue) {
     });
     Table table({"Tag", "Name", "Shape", "Holds", "Width", "Valid", "Carries"});
     for (const Primitive &row : rows) {
-        const WireSize size = valueSize(catalogue, row);
-        table.add({tagText(row), row.name, shapeText(row.shape), layoutText(catalogue, row),
-                   countText(size.least, size.greatest), validText(row), row.term});
+        const WireSize size = value_size(catalogue, row);
+        table.add({tag_text(row), row.name, shape_text(row.shape), layout_text(catalogue, row),
+                   count_text(size.least, size.greatest), valid_text(row), row.term});
     }
     return text + table.text();
 }
 
-std::string tokensText(const Catalogue &catalogue) {
+std::string tokens_text(const Catalogue &catalogue) {
     std::string text = tokensIntroduction;
     Table table({"Message", "Append", "Validity", "Packing"});
     for (const Message &row : catalogue.messages)
-        table.add({row.name, tokenText(row.appendToken), tokenText(row.validityToken),
-                   tokenText(row.packToken)});
+        table.add({row.name, token_text(row.appendToken), token_text(row.validityToken),
+                   token_text(row.packToken)});
     return text + table.text();
 }
 
 } // namespace
 
-std::string referenceTables(const Catalogue &catalogue) {
-    std::string text = introduction + messagesText(catalogue) + compositesText(catalogue) +
-                       primitivesText(catalogue) + tokensText(catalogue);
+std::string reference_tables(const Catalogue &catalogue) {
+    std::string text = introduction + messages_text(catalogue) + composites_text(catalogue) +
+                       primitives_text(catalogue) + tokens_text(catalogue);
     text.pop_back(); // the empty line that the last table leaves
     return text;
 }

@@ -10,25 +10,25 @@ WireSize operator+(WireSize left, WireSize right) {
     return {left.least + right.least, left.greatest + right.greatest};
 }
 
-WireSize nestedSize(const Catalogue &catalogue, const std::string &name) {
-    return valueSize(catalogue, catalogue.primitive(name)) + WireSize{ieHeaderSize, ieHeaderSize};
+WireSize nested_size(const Catalogue &catalogue, const std::string &name) {
+    return value_size(catalogue, catalogue.primitive(name)) + WireSize{ieHeaderSize, ieHeaderSize};
 }
 
-uint32_t greatestIeSize(const Catalogue &catalogue, const Composite &row);
+uint32_t greatest_ie_size(const Catalogue &catalogue, const Composite &row);
 
-uint32_t greatestSlotsSize(const Catalogue &catalogue, const std::vector<Slot> &slots) {
+uint32_t greatest_slots_size(const Catalogue &catalogue, const std::vector<Slot> &slots) {
     uint32_t size = 0;
     for (const Slot &slot : slots)
-        size += slot.composite ? greatestIeSize(catalogue, catalogue.composite(slot.child))
-                               : nestedSize(catalogue, slot.child).greatest;
+        size += slot.composite ? greatest_ie_size(catalogue, catalogue.composite(slot.child))
+                               : nested_size(catalogue, slot.child).greatest;
     return size;
 }
 
-uint32_t greatestIeSize(const Catalogue &catalogue, const Composite &row) {
-    if (row.isList())
+uint32_t greatest_ie_size(const Catalogue &catalogue, const Composite &row) {
+    if (row.is_list())
         return ieHeaderSize +
-               row.greatest * greatestIeSize(catalogue, catalogue.composite(row.element));
-    return ieHeaderSize + greatestSlotsSize(catalogue, row.slots);
+               row.greatest * greatest_ie_size(catalogue, catalogue.composite(row.element));
+    return ieHeaderSize + greatest_slots_size(catalogue, row.slots);
 }
 
 struct Memory {
@@ -60,7 +60,7 @@ Memory integer(const std::string &type) {
     throw std::runtime_error("no integer type is named " + type);
 }
 
-Memory valueMemory(const Catalogue &catalogue, const Primitive &row) {
+Memory value_memory(const Catalogue &catalogue, const Primitive &row) {
     if (row.shape == Shape::scalar)
         return integer(row.type);
     Memory structure = {0, 1};
@@ -69,56 +69,56 @@ Memory valueMemory(const Catalogue &catalogue, const Primitive &row) {
     if (row.shape == Shape::bytes)
         add(structure, integer("uint8_t"), row.capacity);
     for (const std::string &member : row.members)
-        add(structure, valueMemory(catalogue, catalogue.primitive(member)),
+        add(structure, value_memory(catalogue, catalogue.primitive(member)),
             row.shape == Shape::list ? row.capacity : 1);
     return padded(structure);
 }
 
-Memory compositeMemory(const Catalogue &catalogue, const Composite &row);
+Memory composite_memory(const Catalogue &catalogue, const Composite &row);
 
-void addSlots(Memory &structure, const Catalogue &catalogue, const std::vector<Slot> &slots) {
+void add_slots(Memory &structure, const Catalogue &catalogue, const std::vector<Slot> &slots) {
     for (const Slot &slot : slots)
-        add(structure, slot.composite ? compositeMemory(catalogue, catalogue.composite(slot.child))
-                                      : valueMemory(catalogue, catalogue.primitive(slot.child)));
+        add(structure, slot.composite ? composite_memory(catalogue, catalogue.composite(slot.child))
+                                      : value_memory(catalogue, catalogue.primitive(slot.child)));
 }
 
-Memory compositeMemory(const Catalogue &catalogue, const Composite &row) {
-    Memory structure = integer(row.isList() ? "uint16_t" : "uint8_t");
-    if (row.isList())
-        add(structure, compositeMemory(catalogue, catalogue.composite(row.element)), row.greatest);
-    addSlots(structure, catalogue, row.slots);
+Memory composite_memory(const Catalogue &catalogue, const Composite &row) {
+    Memory structure = integer(row.is_list() ? "uint16_t" : "uint8_t");
+    if (row.is_list())
+        add(structure, composite_memory(catalogue, catalogue.composite(row.element)), row.greatest);
+    add_slots(structure, catalogue, row.slots);
     return padded(structure);
 }
 
 } // namespace
 
-WireSize valueSize(const Catalogue &catalogue, const Primitive &row) {
+WireSize value_size(const Catalogue &catalogue, const Primitive &row) {
     if (row.shape == Shape::scalar)
         return {row.width, row.width};
     if (row.shape == Shape::bytes)
         return {row.least, row.greatest};
     if (row.shape == Shape::list) {
-        const WireSize item = nestedSize(catalogue, row.members.front());
+        const WireSize item = nested_size(catalogue, row.members.front());
         return {row.least * item.least, row.greatest * item.greatest};
     }
     WireSize size = {0, 0};
     for (const std::string &member : row.members)
-        size = size + nestedSize(catalogue, member);
+        size = size + nested_size(catalogue, member);
     return size;
 }
 
-uint32_t greatestBuiltSize(const Catalogue &catalogue, const Message &row) {
-    return nestedSize(catalogue, "MessageId").greatest + greatestSlotsSize(catalogue, row.slots);
+uint32_t greatest_built_size(const Catalogue &catalogue, const Message &row) {
+    return nested_size(catalogue, "MessageId").greatest + greatest_slots_size(catalogue, row.slots);
 }
 
-uint32_t recordMemory(const Catalogue &catalogue, const Composite &row) {
-    return compositeMemory(catalogue, row).size;
+uint32_t record_memory(const Catalogue &catalogue, const Composite &row) {
+    return composite_memory(catalogue, row).size;
 }
 
-uint32_t recordMemory(const Catalogue &catalogue, const Message &row) {
+uint32_t record_memory(const Catalogue &catalogue, const Message &row) {
     Memory structure = integer("uint8_t"); // MessageId
     add(structure, integer("uint8_t"));    // presence
-    addSlots(structure, catalogue, row.slots);
+    add_slots(structure, catalogue, row.slots);
     return padded(structure).size;
 }
 

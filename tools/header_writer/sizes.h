@@ -15,15 +15,15 @@ struct WireSize {
 };
 
 // The bytes of a valid value, without the IE's header.
-WireSize valueSize(const Catalogue &catalogue, const Primitive &row);
+WireSize value_size(const Catalogue &catalogue, const Primitive &row);
 
 // The most bytes that a message built from its record can take: every slot filled once, every
 // value, count and length at its greatest.
-uint32_t greatestBuiltSize(const Catalogue &catalogue, const Message &row);
+uint32_t greatest_built_size(const Catalogue &catalogue, const Message &row);
 
 // sizeof the records, where integers are aligned to their size.
-uint32_t recordMemory(const Catalogue &catalogue, const Composite &row);
-uint32_t recordMemory(const Catalogue &catalogue, const Message &row);
+uint32_t record_memory(const Catalogue &catalogue, const Composite &row);
+uint32_t record_memory(const Catalogue &catalogue, const Message &row);
 
 } // namespace header_writer
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 namespace header_writer {
-std::string presenceText(const Catalogue &catalogue, const Slot &slot) {
+std::string presence_text(const Catalogue &catalogue, const Slot &slot) {
     if (slot.presence == Presence::mandatory)
         return "mandatory";
     if (slot.presence == Presence::optional)
@@ -14,46 +14,46 @@ std::string presenceText(const Catalogue &catalogue, const Slot &slot) {
            meaning;
 }
 
-std::string kindText(const Slot &slot) {
+std::string kind_text(const Slot &slot) {
     if (slot.second)
         return slot.child + " again, ";
     return slot.composite ? "composite, " : "";
 }
 
-std::string slotTable(const Catalogue &catalogue, const std::vector<Slot> &slots) {
+std::string slot_table(const Catalogue &catalogue, const std::vector<Slot> &slots) {
     size_t widest = 0;
     for (const Slot &slot : slots)
         widest = std::max(widest, slot.member.size());
     std::string table;
     for (const Slot &slot : slots)
         table += "  " + padded(slot.member, widest) + "  " +
-                 padded("tag " + std::to_string(catalogue.tagOf(slot)), 7) + "  " + kindText(slot) +
-                 presenceText(catalogue, slot) + "\n";
+                 padded("tag " + std::to_string(catalogue.tag_of(slot)), 7) + "  " +
+                 kind_text(slot) + presence_text(catalogue, slot) + "\n";
     return table;
 }
 
-void addSlotMembers(std::vector<Member> &members, const std::vector<Slot> &slots) {
-    const std::vector<uint32_t> bits = presenceBits(slots);
+void add_slot_members(std::vector<Member> &members, const std::vector<Slot> &slots) {
+    const std::vector<uint32_t> bits = presence_bits(slots);
     const bool used = std::any_of(bits.begin(), bits.end(), [](uint32_t bit) { return bit != 0; });
     members.push_back({"uint8_t presence", used ? "" : "no bit in use"});
     for (size_t i = 0; i < slots.size(); ++i)
         members.push_back(
             {"Tarn" + slots[i].child + (slots[i].composite ? "Record " : " ") + slots[i].member,
-             bits[i] == 0 ? "" : bitText(bits[i])});
+             bits[i] == 0 ? "" : bit_text(bits[i])});
 }
 
-std::vector<Constant> presenceConstants(const std::string &owner, const std::vector<Slot> &slots) {
-    const std::vector<uint32_t> bits = presenceBits(slots);
+std::vector<Constant> presence_constants(const std::string &owner, const std::vector<Slot> &slots) {
+    const std::vector<uint32_t> bits = presence_bits(slots);
     std::vector<Constant> constants;
     for (size_t i = 0; i < slots.size(); ++i)
         if (bits[i] != 0)
-            constants.push_back({"Tarn" + owner + "Has" + slots[i].member, bitText(bits[i])});
+            constants.push_back({"Tarn" + owner + "Has" + slots[i].member, bit_text(bits[i])});
     return constants;
 }
 
 namespace {
 
-void writeValueAppend(Page &page, const std::string &child, const Parent &parent) {
+void write_value_append(Page &page, const std::string &child, const Parent &parent) {
     const std::string name = "TarnAppend" + child + "To" + parent.name;
     // A message gets its MessageId when it is created; any value of it is valid.
     if (child == "MessageId")
@@ -64,15 +64,15 @@ void writeValueAppend(Page &page, const std::string &child, const Parent &parent
                       "appends a copy of *value, returning 1 on success and 0 if invalid.");
 }
 
-void writeValueOperations(Page &page, const std::string &child, const Parent &parent) {
-    writeValueAppend(page, child, parent);
+void write_value_operations(Page &page, const std::string &child, const Parent &parent) {
+    write_value_append(page, child, parent);
     page.function("uint32_t", "TarnExtract" + child + "From" + parent.name,
                   {parent.parameter, "Tarn" + child + " *value"},
                   "copies the next " + child +
                       " to *value, returning 1 on success and 0 if there is none.");
 }
 
-void writeObjectOperations(Page &page, const std::string &child, const Parent &parent) {
+void write_object_operations(Page &page, const std::string &child, const Parent &parent) {
     const std::string &name = parent.childParameter;
     page.function("uint32_t", "TarnAppend" + child + "IeTo" + parent.name,
                   {parent.parameter, "Tarn" + child + "Ie *" + name},
@@ -85,14 +85,14 @@ void writeObjectOperations(Page &page, const std::string &child, const Parent &p
 
 } // namespace
 
-void writeSlotOperations(Page &page, const std::vector<Slot> &slots, const Parent &parent) {
+void write_slot_operations(Page &page, const std::vector<Slot> &slots, const Parent &parent) {
     for (const Slot &slot : slots) {
         if (slot.second)
             continue;
         if (slot.composite)
-            writeObjectOperations(page, slot.child, parent);
+            write_object_operations(page, slot.child, parent);
         else
-            writeValueOperations(page, slot.child, parent);
+            write_value_operations(page, slot.child, parent);
     }
 }
 

@@ -5,55 +5,55 @@
 namespace header_writer {
 namespace {
 
-std::string hexText(uint32_t number, int digits) {
+std::string hex_text(uint32_t number, int digits) {
     char text[16];
     std::snprintf(text, sizeof text, "0x%0*X", digits, number);
     return text;
 }
 
 // Bounds that are a number of bits read better in hexadecimal.
-std::string numberText(uint32_t number) {
+std::string number_text(uint32_t number) {
     const bool allOnes = (number & (number + 1)) == 0;
-    return number > 0xFFFF && allOnes ? hexText(number, 8) : std::to_string(number);
+    return number > 0xFFFF && allOnes ? hex_text(number, 8) : std::to_string(number);
 }
 
 } // namespace
 
-std::string countText(uint32_t least, uint32_t greatest) {
+std::string count_text(uint32_t least, uint32_t greatest) {
     if (least == greatest)
-        return numberText(least);
-    return numberText(least) + " to " + numberText(greatest);
+        return number_text(least);
+    return number_text(least) + " to " + number_text(greatest);
 }
 
-std::string boundText(uint32_t least, uint32_t greatest) {
-    return least == 0 ? "at most " + numberText(greatest) : countText(least, greatest);
+std::string bound_text(uint32_t least, uint32_t greatest) {
+    return least == 0 ? "at most " + number_text(greatest) : count_text(least, greatest);
 }
 
-std::string bytesText(uint32_t least, uint32_t greatest) {
-    return countText(least, greatest) + (greatest == 1 ? " byte" : " bytes");
+std::string bytes_text(uint32_t least, uint32_t greatest) {
+    return count_text(least, greatest) + (greatest == 1 ? " byte" : " bytes");
 }
 
-bool takesAnyValue(const Primitive &row) {
+bool takes_any_value(const Primitive &row) {
     const uint32_t widest = row.width == 1 ? 0xFF : row.width == 2 ? 0xFFFF : 0xFFFFFFFF;
     return row.least == 0 && row.greatest >= widest;
 }
 
-std::string rangeText(const Primitive &row) {
+std::string range_text(const Primitive &row) {
     if (row.shape == Shape::bytes)
-        return bytesText(row.least, row.greatest);
-    return takesAnyValue(row) ? "any value" : countText(row.least, row.greatest);
+        return bytes_text(row.least, row.greatest);
+    return takes_any_value(row) ? "any value" : count_text(row.least, row.greatest);
 }
 
 std::string padded(const std::string &text, size_t width) {
     return text + std::string(width > text.size() ? width - text.size() : 0, ' ');
 }
 
-std::string bitText(uint32_t bit) {
-    return hexText(bit, 2);
+std::string bit_text(uint32_t bit) {
+    return hex_text(bit, 2);
 }
 
-std::string tokenText(uint32_t token) {
-    return hexText(token, 8);
+std::string token_text(uint32_t token) {
+    return hex_text(token, 8);
 }
 
 } // namespace header_writer
