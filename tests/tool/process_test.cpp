@@ -157,6 +157,72 @@ TEST(Tool, ExitsByWhatWasWrong) {
         EXPECT_EQ(run(arguments, input).status, status) << arguments;
 }
 
+TEST(Tool, FindsCountsAndCompares) {
+    const std::string rabs = samples + "RabAssignmentRequest.hex ";
+    const std::string captures = CAPTURES_DIRECTORY "/";
+    const struct {
+        std::string arguments;
+        const char *shown; // a part of what is printed
+        const char *missing;
+        int status;
+    } cases[] = {
+        {"decode --fields message,Srnti,RabList.RabId " + rabs,
+         "RabAssignmentRequest\t123456\t5,6\nRabAssignmentRequest\t123456\t7\n", "valid", 0},
+        {"decode --fields RabDataInfoList " + samples + "IuReleaseComplete.hex",
+         "[{\"RabId\":", "\"}", 0},
+        {"decode --summary --where 'RabList.RabId==7 && !Imsi' " + rabs, "valid", "\n1  ", 0},
+        {"decode --summary --where 'RabList.RabId>7 || Srnti!=0x1e240' " + rabs, "", "valid", 0},
+        {"decode --json --only 'Reset,verdict=invalid' --not up " + samples + "*.hex", "Reset",
+         "Rab", 0},
+        {"decode --summary --where 'Imsi==\"00101*\"' " + captures + "exchange.pcapng",
+         "Imsi 001010123456789  valid", "Paging", 0},
+        {"decode --json --readable --redact --only AccessControlRequest " + captures +
+             "exchange_cooked.pcap.gz",
+         "\"Imsi\":\"redacted\"", "00101", 0},
+        {"decode --json --redact " + samples + "refused/wrong_tag.hex", "\"bytes\":null",
+         "0003", 1},
+        {"decode --hex --errors " + samples + "refused/wrong_tag.hex",
+         "# refused: byte 17 (0x11), AcUeId: expected AcUeId [3], found ", ", valid", 1},
+        {"stats --per-second " + captures + "exchange.pcapng", "\n          37  20", "refused:", 0},
+        {"stats " + samples + "refused/wrong_tag.hex", "refused: WrongTag AcUeId", "From", 1},
+        {"diff " + rabs + rabs, "", "->", 0},
+        {"diff " + rabs + samples + "Reset.hex", "has 2 more", "absent\n\n", 1},
+        {"diff " + captures + "exchange.pcapng " + captures + "exchange_cooked.pcap.gz", "", "->",
+         0},
+        {"describe --schema spark", "`RabList` ARRAY<STRUCT<`RabId`: BIGINT,", "VARCHAR", 0},
+    };
+    for (const auto &[arguments, shown, missing, status] : cases) {
+        const Outcome found = run(arguments);
+        EXPECT_EQ(found.status, status) << arguments << "\n" << found.err;
+        EXPECT_NE(found.out.find(shown), std::string::npos) << arguments << "\n" << found.out;
+        EXPECT_EQ(found.out.find(missing), std::string::npos) << arguments << "\n" << found.out;
+    }
+}
+
+TEST(Tool, NamesWhatIsWrongAndWhatIsNear) {
+    for (const auto &[arguments, error] :
+         {std::pair{"decdoe", "tarn: no command 'decdoe'; did you mean decode?\nSee tarn help.\n"},
+          {"decode --jsn", "tarn: no option '--jsn'; did you mean --json?\nSee tarn help decode.\n"},
+          {"decode --only Rez", "tarn: 'Rez' fits no message's name, and is none of up, down, valid, "
+                                "invalid and refused\nSee tarn help decode.\n"},
+          {"decode --where 'Srnti=='",
+           "tarn: expected a value at character 8 of 'Srnti=='\nSee tarn help decode.\n"},
+          {"decode \"$(printf 'no\\033such')\"",
+           "tarn: no\\x1bsuch: No such file or directory\n"}})
+        EXPECT_EQ(run(arguments).err, error);
+}
+
+TEST(Tool, PrintsMessagesAsTheyCome) {
+    const std::string out = temporary_file("comes");
+    const std::string command =
+        "(printf '%s' '" + std::string(resetHex) + "'; i=0; while [ ! -s " + out +
+        " ] && [ $i -lt 600 ]; do sleep 0.1; i=$((i + 1)); done; [ $i -lt 600 ] || echo late >&2)" +
+        " 2>" + temporary_file("late") + " | " TOOL_COMMAND " decode --json >" + out;
+    EXPECT_EQ(std::system(command.c_str()), 0);
+    EXPECT_EQ(content_of(out), resetJson);
+    EXPECT_EQ(content_of(temporary_file("late")), "");
+}
+
 TEST(Tool, PipesJsonBackIntoBytes) {
     const std::string file = samples + "RabAssignmentRequest.hex";
     const Outcome pretty = run("decode --json --pretty " + file);

@@ -107,17 +107,18 @@ void add_decode(CLI::App &app, CommandLine *line) {
         for (CLI::Option *other : outputs)
             if (one != other)
                 one->excludes(other);
-    command
-        ->add_option("--pcapng", options->pcapng,
-                     "Also write the messages to this capture, as exported PDUs")
-        ->type_name("FILE");
+    CLI::Option *pcapng =
+        command->add_option("--pcapng", options->pcapng,
+                            "Also write the messages to this capture, as exported PDUs");
+    pcapng->type_name("FILE");
     command->add_flag("--readable", line->readable,
                       "JSON: digits of identities and the like instead of hex");
     command
         ->add_flag("--redact", line->redact,
                    "Black out keys, identities and what is passed through: tree, JSON, summary")
         ->excludes(hex)
-        ->excludes(fields);
+        ->excludes(fields)
+        ->excludes(pcapng);
     add_filter(command, &options->filter);
     add_input(command, &options->input);
     command->add_flag("--raw", line->raw, "The same as --from raw");

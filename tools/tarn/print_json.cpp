@@ -83,6 +83,10 @@ private:
             line_ += "null";
         append_fault(judged);
         append_key("bytes");
+        if ((switches_ & TarnInfoRedact) != 0) { // nobody knows what is in them
+            line_ += "null";
+            return;
+        }
         line_ += '"';
         append_hex(judged.bytes(), &line_);
         line_ += '"';

@@ -84,7 +84,7 @@ private:
             text_ += paint_.off();
             text_ += '\n';
         }
-        if (why.faultCount != 0)
+        if (why.faultCount != 0 && (switches_ & TarnInfoRedact) == 0)
             text_ += "    bytes there: " + bytes_at(judged.bytes(), why.faults[0].offset) + "\n";
         for (std::uint32_t i = 0; i < why.noteCount; ++i)
             text_ += "  note: " + words(why.notes[i]) + "\n";
