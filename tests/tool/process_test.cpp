@@ -179,8 +179,8 @@ TEST(Tool, FindsCountsAndCompares) {
         {"decode --json --readable --redact --only AccessControlRequest " + captures +
              "exchange_cooked.pcap.gz",
          "\"Imsi\":\"redacted\"", "00101", 0},
-        {"decode --json --redact " + samples + "refused/wrong_tag.hex", "\"bytes\":null",
-         "0003", 1},
+        {"decode --json --redact " + samples + "refused/wrong_tag.hex", "\"bytes\":null", "0003",
+         1},
         {"decode --hex --errors " + samples + "refused/wrong_tag.hex",
          "# refused: byte 17 (0x11), AcUeId: expected AcUeId [3], found ", ", valid", 1},
         {"stats --per-second " + captures + "exchange.pcapng", "\n          37  20", "refused:", 0},
@@ -202,13 +202,14 @@ TEST(Tool, FindsCountsAndCompares) {
 TEST(Tool, NamesWhatIsWrongAndWhatIsNear) {
     for (const auto &[arguments, error] :
          {std::pair{"decdoe", "tarn: no command 'decdoe'; did you mean decode?\nSee tarn help.\n"},
-          {"decode --jsn", "tarn: no option '--jsn'; did you mean --json?\nSee tarn help decode.\n"},
-          {"decode --only Rez", "tarn: 'Rez' fits no message's name, and is none of up, down, valid, "
-                                "invalid and refused\nSee tarn help decode.\n"},
+          {"decode --jsn",
+           "tarn: no option '--jsn'; did you mean --json?\nSee tarn help decode.\n"},
+          {"decode --only Rez",
+           "tarn: 'Rez' fits no message's name, and is none of up, down, valid, "
+           "invalid and refused\nSee tarn help decode.\n"},
           {"decode --where 'Srnti=='",
            "tarn: expected a value at character 8 of 'Srnti=='\nSee tarn help decode.\n"},
-          {"decode \"$(printf 'no\\033such')\"",
-           "tarn: no\\x1bsuch: No such file or directory\n"}})
+          {"decode \"$(printf 'no\\033such')\"", "tarn: no\\x1bsuch: No such file or directory\n"}})
         EXPECT_EQ(run(arguments).err, error);
 }
 

@@ -51,25 +51,21 @@ void add_input(CLI::App *command, tool::InputOptions *input) {
         ->type_name("FORM");
     command->add_option("--port", input->capture.ports, "Take what is on this port for messages")
         ->type_name("N")
-        ->expected(1)
-        ->take_all();
+        ->allow_extra_args(false);
     command
         ->add_option("--link", input->capture.links,
                      "Take the packets of this link type for bare messages")
         ->type_name("N")
-        ->expected(1)
-        ->take_all();
+        ->allow_extra_args(false);
 }
 
 void add_filter(CLI::App *command, tool::FilterOptions *filter) {
     command->add_option("--only", filter->only, "Only messages of which one of these holds")
         ->type_name("TERMS")
-        ->expected(1)
-        ->take_all();
+        ->allow_extra_args(false);
     command->add_option("--not", filter->butNot, "No messages of which one of these holds")
         ->type_name("TERMS")
-        ->expected(1)
-        ->take_all();
+        ->allow_extra_args(false);
     command->add_option("--where", filter->where, "Only messages for which this holds")
         ->type_name("EXPRESSION");
     command->add_flag("--errors", filter->errors, "Only messages that are refused or invalid");
@@ -107,9 +103,8 @@ void add_decode(CLI::App &app, CommandLine *line) {
         for (CLI::Option *other : outputs)
             if (one != other)
                 one->excludes(other);
-    CLI::Option *pcapng =
-        command->add_option("--pcapng", options->pcapng,
-                            "Also write the messages to this capture, as exported PDUs");
+    CLI::Option *pcapng = command->add_option(
+        "--pcapng", options->pcapng, "Also write the messages to this capture, as exported PDUs");
     pcapng->type_name("FILE");
     command->add_flag("--readable", line->readable,
                       "JSON: digits of identities and the like instead of hex");
