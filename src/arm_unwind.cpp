@@ -8,8 +8,11 @@
 
 extern "C" {
 
-[[gnu::visibility("hidden")]] void __aeabi_unwind_cpp_pr0() {}
-[[gnu::visibility("hidden")]] void __aeabi_unwind_cpp_pr1() {}
+[[gnu::visibility("hidden")]] void __aeabi_unwind_cpp_pr0();
+[[gnu::visibility("hidden")]] void __aeabi_unwind_cpp_pr1();
+
+void __aeabi_unwind_cpp_pr0() {}
+void __aeabi_unwind_cpp_pr1() {}
 
 } // extern "C"
 
