@@ -10,11 +10,11 @@ namespace info {
 namespace {
 
 using tarn::Fate;
+using tarn::getToken;
 using tarn::Outcome;
 using tarn::Place;
 using tarn::Reason;
 
-constexpr std::uint32_t getToken = 0xB4D9287C;
 // More are not told: hostile bytes could ask for millions.
 constexpr std::size_t mostNotes = 1000;
 

@@ -317,11 +317,10 @@ const TarnInfoMessage *tarnInfoMessageByName(const char *name) {
 // ---- Debug tokens and modules ------------------------------------------------------------------
 
 TarnInfoStep tarnInfoToken(uint32_t token, const TarnInfoMessage **message) {
-    constexpr uint32_t getToken = 0xB4D9287C; // the same for all messages
     const TarnInfoMessage *unused = nullptr;
     const TarnInfoMessage *&found = message != nullptr ? *message : unused;
     found = nullptr;
-    if (token == getToken)
+    if (token == tarn::getToken)
         return TarnInfoGetStep;
     for (uint32_t i = 0; i < allMessages.count; ++i) {
         found = allMessages.all[i];

@@ -132,7 +132,7 @@ static_assert(conditions_ask_code_words());
 #include "catalogue/conditions.def"
 
 constexpr bool tokens_are_distinct() {
-    uint32_t tokens[3 * messageCount] = {0xB4D9287C}; // every Get's
+    uint32_t tokens[3 * messageCount] = {getToken};
     unsigned count = 1;
     for (const Message &message : catalogue.messages) {
         if (message.slots.count == 0)

@@ -206,6 +206,9 @@ struct Message {
     uint32_t packToken;
 };
 
+// What every Get reports; the messages' tokens are Build's.
+inline constexpr uint32_t getToken = 0xB4D9287C;
+
 struct Condition {
     TypeId type;    // of the IE looked for
     uint8_t values; // set of numbers, one bit each

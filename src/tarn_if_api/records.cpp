@@ -240,9 +240,7 @@ void get_shared(const SlotTable &table, const SlotTable &own, Input in, void *re
     }
 }
 
-// Every Get reports this one token.
 [[gnu::cold]] uint32_t fail_get() {
-    constexpr uint32_t getToken = 0xB4D9287C;
     velSwTokenDebug(getToken, 0);
     return 0;
 }
