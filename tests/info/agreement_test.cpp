@@ -107,7 +107,7 @@ void Agreement::expect_record(const Message &message, const samples::Record &rec
 TEST_F(Agreement, OnBytesOfEveryMessageAndWhatBecomesOfThem) {
     Random random(13);
     for (const Message *message : protocol::messages())
-        for (int round = 0; round < 300; ++round) {
+        for (int round = 0; round < 60; ++round) {
             SCOPED_TRACE(message->name);
             const Nodes nodes = samples::make_message(*message, amounts[round % 3], random);
             ASSERT_NO_FATAL_FAILURE(expect_bytes(samples::encode(nodes)));
@@ -123,7 +123,7 @@ TEST_F(Agreement, OnMessagesJoinedFromParts) {
         const Message &message = *all[random.between(0, std::uint32_t(all.size()) - 1)];
         return samples::encode(samples::make_message(message, Amount::slim, random));
     };
-    for (int round = 0; round < 4000; ++round) {
+    for (int round = 0; round < 1000; ++round) {
         Bytes bytes = any();
         const Bytes other = any();
         const std::uint32_t from = random.between(0, std::uint32_t(other.size()));
@@ -190,7 +190,7 @@ TEST_F(Agreement, OnObjectsOutOfOrder) {
 TEST_F(Agreement, OnRecordsWithAnyByteChanged) {
     Random random(17);
     for (const Message *message : protocol::messages())
-        for (int round = 0; round < 200; ++round) {
+        for (int round = 0; round < 60; ++round) {
             const Nodes nodes = samples::make_message(*message, amounts[round % 3], random);
             samples::Record record(*message);
             samples::fill_record(*message, nodes, &record);
