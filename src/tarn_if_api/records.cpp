@@ -28,7 +28,7 @@ template <auto id>
 constexpr Constant<id> behind_message_id(Constant<id> known) {
     return known;
 }
-inline SlotTable behind_message_id(MessageNumber id) {
+[[maybe_unused]] inline SlotTable behind_message_id(MessageNumber id) {
     SlotTable table = slots_of(id);
     ++table.first;
     --table.count;
