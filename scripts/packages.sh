@@ -5,8 +5,8 @@
 #   demo      what it takes to build the library and the tool; taken where none is named
 #   test      that, and what the tests are built with
 #   bench     that, and what the benchmarks compare with
-# and, for single stages of scripts/test.sh: format, clang, tidy, coverage, cross, abi, python, pack,
-# bare (bare metal).
+# and, for single stages of scripts/test.sh: format, clang, tidy, coverage, cross, abi, python,
+# install, wireshark, pack, bare (bare metal).
 set -euo pipefail
 
 declare -A packages=(
@@ -22,6 +22,8 @@ declare -A packages=(
     [python]="python3 python3-pytest mypy"
     [pack]="@demo debhelper dh-python dpkg-dev lintian mandoc python3"
     [bare]="@build gcc-arm-none-eabi libnewlib-arm-none-eabi libstdc++-arm-none-eabi-newlib python3"
+    [install]="pkg-config git"
+    [wireshark]="python3 lua5.2 lua5.4 tshark"
     [bench]="@test libbenchmark-dev nanopb libnanopb-dev libprotobuf-c-dev protobuf-c-compiler
         protobuf-compiler libprotobuf-dev capnproto libcapnp-dev flatbuffers-compiler
         libflatbuffers-dev valgrind libmimalloc2.0 libjemalloc2 libtcmalloc-minimal4"

@@ -21,17 +21,20 @@
 #   bare       the static library for bare metal, and what a program takes of it
 #   packages   the Debian packages, judged by lintian
 #   reproducible  two builds in different places, bit by bit
+#   wireshark  Wireshark's plugin against the tool
+#   soak       library and host under load for half a minute
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 quick=(gcc sanitizers format)
 all=(gcc sanitizers format coverage tidy threads fuzz armhf s390x abi python
-    install bare packages reproducible)
+    install bare packages reproducible wireshark soak)
 
 # The groups of scripts/packages.sh that a stage needs; `test` where none is named.
 declare -A needs=([format]=format [tidy]=tidy [threads]="test clang" [fuzz]="test clang"
     [coverage]="test coverage" [armhf]=cross [s390x]=cross [abi]="cross abi"
-    [python]="test python" [bare]=bare [packages]=pack)
+    [python]="test python" [install]="test install" [bare]=bare [packages]=pack
+    [wireshark]="test wireshark")
 
 run_preset() {
     cmake --preset "$1" >/dev/null
@@ -46,13 +49,13 @@ stage_format() {
         xargs -0 clang-format --dry-run --Werror
 }
 stage_coverage() { scripts/coverage.sh; }
-stage_tidy() { # of this build's flags no one is left out: clang's warnings are among the checks
+stage_tidy() {
     cmake --preset release >/dev/null
     git ls-files -z 'src/*.cpp' 'host/*.cpp' 'tools/*.cpp' |
         xargs -0 -P "$(nproc)" -n 4 clang-tidy -p build/release --quiet
 }
 stage_threads() { scripts/threads.sh; }
-stage_fuzz() { scripts/fuzz.sh 3; }
+stage_fuzz() { scripts/fuzz.sh 5; }
 stage_armhf() { run_preset armhf; }
 stage_s390x() { run_preset s390x; }
 stage_abi() { scripts/abi.sh; }
@@ -61,6 +64,8 @@ stage_install() { scripts/install.sh; }
 stage_bare() { scripts/bare_metal.sh; }
 stage_packages() { scripts/debian.sh; }
 stage_reproducible() { scripts/reproducible.sh; }
+stage_wireshark() { scripts/wireshark.sh; }
+stage_soak() { scripts/soak.sh 0.5; }
 
 usage() { # exit status
     sed -n '2,/^set /{/^#/s/^# \{0,1\}//p}' "$0"
