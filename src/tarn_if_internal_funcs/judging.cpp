@@ -4,11 +4,12 @@ namespace tarn {
 
 namespace {
 
+// Static, as there is nobody at the address.
 struct Nobody {
-    void enters(Place, TypeId, const uint8_t *) {}
-    void finds(Reason, const uint8_t *, uint32_t) {}
-    void reads(uint32_t, uint32_t) {}
-    void leaves(Outcome, Fate) {}
+    static void enters(Place, TypeId, const uint8_t *) {}
+    static void finds(Reason, const uint8_t *, uint32_t) {}
+    static void reads(uint32_t, uint32_t) {}
+    static void leaves(Outcome, Fate) {}
 };
 
 Judge<Nobody> judge() {
