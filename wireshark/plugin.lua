@@ -158,10 +158,10 @@ end
 
 -- A finding is shown with the byte that it is about, or with the last one if the bytes have ended.
 local function add_finding(tree, found, kind, view)
-  local at = math.min(found.at, #view.bytes - 1)
+  local at, text = math.min(found.at, #view.bytes - 1), words(found)
   local range = range_of(view, at, 1)
-  local item = tree:add(fields.finding, range, words(found))
-  item:add_proto_expert_info(kind, words(found))
+  local item = tree:add(fields.finding, range, text)
+  item:add_proto_expert_info(kind, text)
   item:add(fields.findingAt, range, found.at)
   item:add(fields.findingPath, range, found.path)
   item:add(fields.findingReason, range, found.what)
@@ -346,13 +346,18 @@ local function add_contents(item, result, view, pinfo)
   end
 end
 
-local function add_findings(item, result, view)
+-- For the list of expert information alone, without an item of their own.
+local function list_finding(item, found, kind)
+  item:add_proto_expert_info(kind, words(found))
+end
+
+local function add_findings(add, item, result, view)
   local kind = result.verdict == "invalid" and experts.invalid or experts.refused
   for _, fault in ipairs(result.faults) do
-    add_finding(item, fault, kind, view)
+    add(item, fault, kind, view)
   end
   for _, note in ipairs(result.notes) do
-    add_finding(item, note, experts.letPass, view)
+    add(item, note, experts.letPass, view)
   end
 end
 
@@ -377,7 +382,7 @@ local function add_message(tree, result, view, pinfo, text)
   if isWanted then
     add_contents(item, result, view, pinfo)
   end
-  add_findings(item, result, view)
+  add_findings(isWanted and add_finding or list_finding, item, result, view)
 end
 
 -- Returns the info column, for a fence to be put behind all that belongs to the message.
