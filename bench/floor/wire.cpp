@@ -75,12 +75,11 @@ private:
     uint8_t *at_;
 };
 
-// Remembers whether each header was the one expected.
+// Each returns whether the header was the one expected.
 class WireReader {
 public:
     explicit WireReader(const uint8_t *at) : at_(at) {}
 
-    bool ok() const { return wrong_ == 0; }
     template <class Word>
     INLINE Word raw() {
         Word word;
@@ -88,30 +87,29 @@ public:
         at_ += sizeof word;
         return word;
     }
-    INLINE void header(uint32_t tag, uint32_t length) {
-        wrong_ |= raw<uint32_t>() ^ swapped(tag << 16 | length >> 16);
-        wrong_ |= uint32_t(raw<uint16_t>() ^ swapped(uint16_t(length)));
+    INLINE bool header(uint32_t tag, uint32_t length) {
+        return raw<uint32_t>() == swapped(tag << 16 | length >> 16) &&
+               raw<uint16_t>() == swapped(uint16_t(length));
     }
-    INLINE uint8_t ie8(uint32_t tag) {
-        header(tag, 1);
-        return raw<uint8_t>();
+    template <class Word, class To>
+    INLINE bool ie(uint32_t tag, To *to) {
+        if (!header(tag, sizeof(Word)))
+            return false;
+        *to = swapped(raw<Word>());
+        return true;
     }
-    INLINE uint16_t ie16(uint32_t tag) {
-        header(tag, 2);
-        return swapped(raw<uint16_t>());
-    }
-    INLINE uint32_t ie32(uint32_t tag) {
-        header(tag, 4);
-        return swapped(raw<uint32_t>());
-    }
-    INLINE void bytes(uint8_t *to, uint32_t count) {
-        memcpy(to, at_, count);
-        at_ += count;
+    template <class Bytes>
+    INLINE bool bytes(uint32_t tag, Bytes *value, uint32_t length) {
+        if (!header(tag, length))
+            return false;
+        value->length = length;
+        memcpy(value->bytes, at_, length);
+        at_ += length;
+        return true;
     }
 
 private:
     const uint8_t *at_;
-    uint32_t wrong_ = 0;
 };
 
 // ---- Records to bytes --------------------------------------------------------------------------
@@ -186,78 +184,65 @@ INLINE void write_rab(WireWriter *out, const TarnRabToSetUpInfoRecord &record) {
 // ---- Bytes to records --------------------------------------------------------------------------
 
 template <class Record>
-INLINE WireReader read_ids(const uint8_t *buffer, Record *record) {
-    WireReader in(buffer);
-    record->MessageId = in.ie8(72);
-    record->Srnti = in.ie32(1);
-    record->AcUeId = in.ie32(3);
-    return in;
+INLINE bool read_ids(WireReader *in, Record *record) {
+    return in->ie<uint8_t>(72, &record->MessageId) && in->ie<uint32_t>(1, &record->Srnti) &&
+           in->ie<uint32_t>(3, &record->AcUeId);
 }
 
-template <class Bytes>
-INLINE void read_bytes(WireReader *in, uint32_t tag, Bytes *value, uint32_t length) {
-    in->header(tag, length);
-    value->length = length;
-    in->bytes(value->bytes, length);
-}
-
-INLINE void read_bit_rates(WireReader *in, TarnBitRates *value) {
-    in->header(30, bitRatesSize);
+INLINE bool read_bit_rates(WireReader *in, TarnBitRates *value) {
     value->count = 2;
-    value->items[0] = in->ie32(31);
-    value->items[1] = in->ie32(31);
+    return in->header(30, bitRatesSize) && in->ie<uint32_t>(31, &value->items[0]) &&
+           in->ie<uint32_t>(31, &value->items[1]);
 }
 
-INLINE void read_subflow(WireReader *in, TarnSduParamValueRecord *record) {
-    in->header(34, subflowSize);
-    record->presence = 0x80;
-    record->DeliveryOfErrSdu = in->ie16(35);
-    in->header(36, ratioSize);
-    record->BitErrRatio.Mantissa = in->ie8(37);
-    record->BitErrRatio.Exponent = in->ie8(38);
-    in->header(40, formatsSize);
-    record->SduFormatInfoParamList.count = formatCount;
-    for (unsigned i = 0; i < formatCount; ++i) {
-        TarnSduFormatInfoParamsRecord *format = &record->SduFormatInfoParamList.items[i];
-        in->header(41, formatSize);
-        format->presence = 0x80 | 0x40;
-        format->SduSize = in->ie16(42);
-        format->RabSubflowCombBitRate = in->ie32(43);
-    }
-}
-
-INLINE void read_params(WireReader *in, TarnRabParamsRecord *record) {
-    in->header(26, paramsSize);
-    record->presence = 0x40 | 0x10 | 0x08 | 0x04;
-    record->TrafficClass = in->ie16(27);
-    record->RabAssymetryInd = in->ie16(28);
-    record->DeliveryOrder = in->ie16(55);
-    record->MaxSduSize = in->ie16(29);
-    read_bit_rates(in, &record->BitRates);
-    in->header(33, subflowsSize);
-    record->SduParams.count = subflowCount;
-    for (unsigned i = 0; i < subflowCount; ++i)
-        read_subflow(in, &record->SduParams.items[i]);
-    in->header(50, priorityLevelsSize);
-    record->AllocRetPriority.PriorityLevel = in->ie8(51);
-    record->AllocRetPriority.PreemptionCapability = in->ie16(52);
-    record->AllocRetPriority.PreemptionVulnerability = in->ie16(53);
-    record->AllocRetPriority.QueuingAllowed = in->ie16(54);
-    read_bit_rates(in, &record->SecondBitRates);
-    record->SourceStatsDescriptor = in->ie16(47);
-    record->TransDelay = in->ie16(48);
-}
-
-INLINE void read_rab(WireReader *in, TarnRabToSetUpInfoRecord *record) {
-    in->header(22, rabSize);
+INLINE bool read_format(WireReader *in, TarnSduFormatInfoParamsRecord *record) {
     record->presence = 0x80 | 0x40;
-    record->RabId = in->ie8(23);
-    record->AcUserPlaneAssociation = in->ie32(24);
-    read_params(in, &record->RabParams);
-    record->NasSyncInd = in->ie8(25);
-    in->header(32, planeSize);
-    record->UserPlaneInfo.UserPlaneMode = in->ie16(20);
-    record->UserPlaneInfo.UserPlaneModeVersions = in->ie16(39);
+    return in->header(41, formatSize) && in->ie<uint16_t>(42, &record->SduSize) &&
+           in->ie<uint32_t>(43, &record->RabSubflowCombBitRate);
+}
+
+INLINE bool read_subflow(WireReader *in, TarnSduParamValueRecord *record) {
+    record->presence = 0x80;
+    record->SduFormatInfoParamList.count = formatCount;
+    bool ok = in->header(34, subflowSize) && in->ie<uint16_t>(35, &record->DeliveryOfErrSdu) &&
+              in->header(36, ratioSize) && in->ie<uint8_t>(37, &record->BitErrRatio.Mantissa) &&
+              in->ie<uint8_t>(38, &record->BitErrRatio.Exponent) && in->header(40, formatsSize);
+    for (unsigned i = 0; ok && i < formatCount; ++i)
+        ok = read_format(in, &record->SduFormatInfoParamList.items[i]);
+    return ok;
+}
+
+INLINE bool read_priority(WireReader *in, TarnAllocRetPriority *value) {
+    return in->header(50, priorityLevelsSize) && in->ie<uint8_t>(51, &value->PriorityLevel) &&
+           in->ie<uint16_t>(52, &value->PreemptionCapability) &&
+           in->ie<uint16_t>(53, &value->PreemptionVulnerability) &&
+           in->ie<uint16_t>(54, &value->QueuingAllowed);
+}
+
+INLINE bool read_params(WireReader *in, TarnRabParamsRecord *record) {
+    record->presence = 0x40 | 0x10 | 0x08 | 0x04;
+    record->SduParams.count = subflowCount;
+    bool ok = in->header(26, paramsSize) && in->ie<uint16_t>(27, &record->TrafficClass) &&
+              in->ie<uint16_t>(28, &record->RabAssymetryInd) &&
+              in->ie<uint16_t>(55, &record->DeliveryOrder) &&
+              in->ie<uint16_t>(29, &record->MaxSduSize) && read_bit_rates(in, &record->BitRates) &&
+              in->header(33, subflowsSize);
+    for (unsigned i = 0; ok && i < subflowCount; ++i)
+        ok = read_subflow(in, &record->SduParams.items[i]);
+    return ok && read_priority(in, &record->AllocRetPriority) &&
+           read_bit_rates(in, &record->SecondBitRates) &&
+           in->ie<uint16_t>(47, &record->SourceStatsDescriptor) &&
+           in->ie<uint16_t>(48, &record->TransDelay);
+}
+
+INLINE bool read_rab(WireReader *in, TarnRabToSetUpInfoRecord *record) {
+    record->presence = 0x80 | 0x40;
+    return in->header(22, rabSize) && in->ie<uint8_t>(23, &record->RabId) &&
+           in->ie<uint32_t>(24, &record->AcUserPlaneAssociation) &&
+           read_params(in, &record->RabParams) && in->ie<uint8_t>(25, &record->NasSyncInd) &&
+           in->header(32, planeSize) &&
+           in->ie<uint16_t>(20, &record->UserPlaneInfo.UserPlaneMode) &&
+           in->ie<uint16_t>(39, &record->UserPlaneInfo.UserPlaneModeVersions);
 }
 
 } // namespace
@@ -278,10 +263,9 @@ uint32_t WireDecodeSecurityModeReject(const uint8_t *buffer, uint32_t length,
                                       TarnSecurityModeRejectRecord *record) {
     if (length < rejectSize)
         return 0;
-    WireReader in = read_ids(buffer, record);
-    record->CnDomainId = in.ie16(6);
-    record->SecRejCause = in.ie16(18);
-    return in.ok();
+    WireReader in(buffer);
+    return read_ids(&in, record) && in.ie<uint16_t>(6, &record->CnDomainId) &&
+           in.ie<uint16_t>(18, &record->SecRejCause);
 }
 
 // ---- AccessControlRequest ----------------------------------------------------------------------
@@ -300,10 +284,9 @@ uint32_t WireDecodeAccessControlRequest(const uint8_t *buffer, uint32_t length,
                                         TarnAccessControlRequestRecord *record) {
     if (length < accessSize)
         return 0;
-    WireReader in = read_ids(buffer, record);
-    read_bytes(&in, 109, &record->LAC, 2);
-    read_bytes(&in, 169, &record->Imsi, 16);
-    return in.ok();
+    WireReader in(buffer);
+    return read_ids(&in, record) && in.bytes(109, &record->LAC, 2) &&
+           in.bytes(169, &record->Imsi, 16);
 }
 
 // ---- UlDirectTransfer --------------------------------------------------------------------------
@@ -323,10 +306,9 @@ uint32_t WireDecodeUlDirectTransfer(const uint8_t *buffer, uint32_t length,
                                     TarnUlDirectTransferRecord *record) {
     if (length < transferSize || length - transferSize > sizeof record->NasMsg.bytes)
         return 0;
-    WireReader in = read_ids(buffer, record);
-    record->CnDomainId = in.ie16(6);
-    read_bytes(&in, 7, &record->NasMsg, length - transferSize);
-    return in.ok();
+    WireReader in(buffer);
+    return read_ids(&in, record) && in.ie<uint16_t>(6, &record->CnDomainId) &&
+           in.bytes(7, &record->NasMsg, length - transferSize);
 }
 
 // ---- RabAssignmentRequest ----------------------------------------------------------------------
@@ -347,11 +329,11 @@ uint32_t WireDecodeRabAssignmentRequest(const uint8_t *buffer, uint32_t length,
                                         TarnRabAssignmentRequestRecord *record) {
     if (length < assignmentSize)
         return 0;
-    WireReader in = read_ids(buffer, record);
-    record->CnDomainId = in.ie16(6);
-    in.header(21, rabsSize);
+    WireReader in(buffer);
     record->RabList.count = rabCount;
-    for (unsigned i = 0; i < rabCount; ++i)
-        read_rab(&in, &record->RabList.items[i]);
-    return in.ok();
+    bool ok =
+        read_ids(&in, record) && in.ie<uint16_t>(6, &record->CnDomainId) && in.header(21, rabsSize);
+    for (unsigned i = 0; ok && i < rabCount; ++i)
+        ok = read_rab(&in, &record->RabList.items[i]);
+    return ok;
 }
