@@ -12,9 +12,12 @@ cd "$(dirname "$0")/.."
 
 build=build/allocators
 formerPool=dd79005
-cmake -S . -B $build -G Ninja -DCMAKE_BUILD_TYPE=Release -DTARN_BENCH=ON -DTARN_TESTS=OFF \
-    -DTARN_EXAMPLES=OFF -DTARN_TOOLS=OFF >$build.log
-cmake --build $build --target tarn_memory >>$build.log
+cmake -S . -B $build -G Ninja -DCMAKE_BUILD_TYPE=Release -DTARN_TESTS=OFF -DTARN_EXAMPLES=OFF \
+    -DTARN_TOOLS=OFF >$build.log
+cmake --build $build --target tarn tarn_host >>$build.log
+g++ -std=c++20 -O2 -DNDEBUG -Iinclude -Iplatform bench/{memory,samples,object_road}.cpp \
+    -L$build/src -L$build/host -ltarn -ltarn_host -pthread -Wl,-rpath,$PWD/$build/src \
+    -o $build/memory
 
 host() { # NAME, DIRECTORY of host and platform, SOURCE...
     mkdir -p $build/$1
@@ -42,7 +45,7 @@ run() { # HOST COMMAND...
 
 collected() { # HOST OPERATION TURNS
     run "$1" valgrind --tool=callgrind --callgrind-out-file=/dev/null \
-        $build/bench/tarn_memory count "$2" "$3" 2>&1 | sed -n 's/.*Collected : //p'
+        $build/memory count "$2" "$3" 2>&1 | sed -n 's/.*Collected : //p'
 }
 
 row() { # TITLE, and a command that is called with each host
@@ -55,7 +58,7 @@ instructions() { # OPERATION TURNS HOST
 }
 # The best of several, in turns with the others.
 nanoseconds() { sort -n $build/"$2"."$1" | head -1; }
-resident() { run "$3" $build/bench/tarn_memory "$1" | cut -d' ' -f"$2"; }
+resident() { run "$3" $build/memory "$1" | cut -d' ' -f"$2"; }
 
 row "" echo
 row "instructions: one block" instructions pair 10000
@@ -67,7 +70,7 @@ rm -f $build/*.[124]
 for _ in 1 2 3 4 5; do
     for threads in 1 2 4; do
         for each in "${hosts[@]}"; do
-            run "$each" $build/bench/tarn_memory time RabAssignmentRequest $threads \
+            run "$each" $build/memory time RabAssignmentRequest $threads \
                 >>$build/"$each".$threads
         done
     done

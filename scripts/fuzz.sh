@@ -1,13 +1,20 @@
 #!/usr/bin/env bash
-# Fuzzes the library: scripts/fuzz.sh [SECONDS-PER-TARGET] [TARGET...]
-# Builds with clang, AddressSanitizer and UndefinedBehaviorSanitizer in build/fuzz and runs each
-# target for so long (60 s by default), going on from what earlier runs have found there. A finding
-# ends the run with the file that shows it; kept in fuzz/regressions, it is replayed by the tests.
+# Fuzzes the library: scripts/fuzz.sh [--compact] [SECONDS-PER-TARGET] [TARGET...]
+# Builds it, or its compact form, with clang, AddressSanitizer and UndefinedBehaviorSanitizer in
+# build/fuzz or build/fuzz-compact and runs each target for so long (60 s by default), going on from
+# what earlier runs have found there. A finding ends the run with the file that shows it; kept in
+# fuzz/regressions, it is replayed by the tests.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 build=build/fuzz
+compact=OFF
 seconds=60
+if [ "${1:-}" = --compact ]; then
+    build=build/fuzz-compact
+    compact=ON
+    shift
+fi
 if [[ "${1:-}" =~ ^[0-9]+$ ]]; then
     seconds=$1
     shift
@@ -17,7 +24,8 @@ fi
 cmake -S . -B $build -G Ninja -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \
     -DCMAKE_BUILD_TYPE=Debug -DCMAKE_C_FLAGS_DEBUG="-O1 -gline-tables-only" \
     -DCMAKE_CXX_FLAGS_DEBUG="-O1 -gline-tables-only" \
-    -DTARN_SANITIZE=address,undefined -DTARN_FUZZ=ON -DTARN_TESTS=OFF -DTARN_EXAMPLES=OFF >/dev/null
+    -DTARN_SANITIZE=address,undefined -DTARN_FUZZ=ON -DTARN_COMPACT=$compact \
+    -DTARN_TESTS=OFF -DTARN_EXAMPLES=OFF >/dev/null
 cmake --build $build --target fuzz/all -- --quiet
 
 # The longest inputs that corpora begin with take some 4,100 bytes. Inputs take microseconds, but a

@@ -23,6 +23,11 @@ void release(void *block) {
     velFreeMemoryWithIds(&block, "user", 22);
 }
 
+bool is_checked() {
+    const char *const check = std::getenv("TARN_HOST_CHECK");
+    return check != nullptr && *check == '1';
+}
+
 // Made wrong, and put right again, so that nothing stays.
 void write_after_release() {
     unsigned char *const block = allocate(32);
@@ -126,7 +131,7 @@ const Case cases[] = {
 class Checking : public testing::TestWithParam<Case> {};
 
 TEST_P(Checking, NamesTheBlockAndItsPlaces) {
-    if (std::getenv("TARN_HOST_CHECK") == nullptr) {
+    if (!is_checked()) {
         GTEST_SKIP() << "only in the checking mode";
     }
     std::string told;
@@ -148,7 +153,7 @@ INSTANTIATE_TEST_SUITE_P(Misuses, Checking, testing::ValuesIn(cases),
                          [](const auto &each) { return std::string(each.param.name); });
 
 TEST(CheckingDeathTest, LooksBlocksOverAtTheEnd) {
-    if (std::getenv("TARN_HOST_CHECK") == nullptr) {
+    if (!is_checked()) {
         GTEST_SKIP() << "only in the checking mode";
     }
     const auto end = [] {

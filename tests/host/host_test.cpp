@@ -37,7 +37,8 @@ namespace {
 constexpr const char *kModule = "host_test";
 
 // All tests run in the checking mode as well.
-const bool isChecked = std::getenv("TARN_HOST_CHECK") != nullptr;
+const char *const check = std::getenv("TARN_HOST_CHECK");
+const bool isChecked = check != nullptr && *check == '1';
 
 void *allocate(std::size_t size) {
     void *block = nullptr;
@@ -288,6 +289,8 @@ TEST_F(HostMemoryReturnsDeathTest, EndedThreadsKeepNothingWithoutKeysEither) {
     EXPECT_EXIT(endThreadsWithoutKeys(), testing::ExitedWithCode(0), "");
 }
 
+#if HOST_TEST_HAS_PLAIN_MALLOC
+
 std::size_t residentBytes() {
     std::size_t total = 0;
     std::size_t resident = 0;
@@ -309,6 +312,7 @@ TEST_F(HostMemoryReturns, BurstsOfDifferentSizesLeaveLittleBehind) {
     EXPECT_LT(residentBytes(), before + 10 * kMegabyte);
 }
 
+#endif
 #endif
 
 // ---- Fatal errors -------------------------------------------------------------------------------
@@ -445,7 +449,7 @@ TEST_F(HostMemory, ReachingTheLimitIsAFatalError) {
     }
 }
 
-#if HOST_TEST_LIMITS_ADDRESSES
+#if HOST_TEST_HAS_PLAIN_MALLOC
 
 void allocateUntilNoneIsLeft(uint32_t size) {
     const rlimit none{1, 1};
