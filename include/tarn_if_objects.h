@@ -15,8 +15,10 @@
  * TarnDeleteMsg, and each composite IE object that it created, until it appends it to a parent or
  * hands it to TarnDeleteIe. Appending a value copies it. Appending a composite IE object makes the
  * parent the owner of that very object: do not delete it or append it again. Extracting a value
- * copies it. Extracting a composite IE object lends its address: it stays with its parent and dies
- * with it. All objects live in the memory that the host's velAllocMemoryWithIds gives.
+ * copies it whole: behind the length of a byte string or the count of a list stands whatever the
+ * block held before, which is not to be sent anywhere. Extracting a composite IE object lends its
+ * address: it stays with its parent and dies with it. All objects live in the memory that the
+ * host's velAllocMemoryWithIds gives.
  *
  * Extract history. An extract operation takes the first direct member of the list that has the
  * wanted tag and was not extracted before, and marks it as extracted. So repeated calls return
