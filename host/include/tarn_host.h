@@ -28,9 +28,9 @@ void tarnHostReportLiveBlocks(FILE *stream);
  * holds. Other threads go on keeping up to 64 KB each. */
 void tarnHostTrim(void);
 
-/* Limits what the host holds, live blocks and those kept for reuse, to so many bytes; 0 for no limit,
- * which is the default. An allocation beyond it is a fatal error, like one for which the system has
- * no memory. Returns the former limit. */
+/* Limits what the host holds, live blocks and those kept for reuse, to so many bytes; 0 for no
+ * limit, which is the default. An allocation beyond it is a fatal error, like one for which the
+ * system has no memory. Returns the former limit. */
 uint64_t tarnHostSetLimit(uint64_t bytes);
 
 /* ---- Fatal errors ---------------------------------------------------------------------------- */
