@@ -134,8 +134,7 @@ void Session::decode_message() {
     if (count(true) == mostMessages)
         return;
     const Message &type = any_message_type(&choices_);
-    const Amount amount =
-        choices_.below(2) != 0 ? Amount::slim : Amount::least;
+    const Amount amount = choices_.below(2) != 0 ? Amount::slim : Amount::least;
     Random random(choices_.byte());
     const Bytes bytes =
         samples::encode(samples::make_message(type, amount, random, choices_.below(4)));

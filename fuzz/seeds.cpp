@@ -101,8 +101,7 @@ bool change_deciding(Nodes *nodes, std::uint32_t number) {
 std::vector<Bytes> spoilt(const Nodes &whole, Random *random) {
     std::vector<Bytes> all;
     for (std::size_t i = 1; i < whole.size(); ++i) {
-        all.push_back(
-            samples::encode(Nodes(whole.begin(), whole.begin() + std::ptrdiff_t(i))));
+        all.push_back(samples::encode(Nodes(whole.begin(), whole.begin() + std::ptrdiff_t(i))));
         Nodes nodes = whole;
         if (auto invalid = samples::make_invalid(*nodes[i].type, *random)) {
             nodes[i] = *std::move(invalid);
@@ -124,8 +123,7 @@ void write_decode(const files::path &folder, const std::vector<Bytes> &messages)
     Random random(1);
     for (const Message *type : protocol::messages())
         for (std::uint32_t deciding = 0; deciding < decidingNumbers; ++deciding) {
-            const Nodes whole =
-                samples::make_message(*type, Amount::slim, random, deciding);
+            const Nodes whole = samples::make_message(*type, Amount::slim, random, deciding);
             for (const Bytes &bytes : spoilt(whole, &random))
                 corpus.add({}, bytes);
         }

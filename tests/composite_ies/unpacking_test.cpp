@@ -102,7 +102,7 @@ TEST_F(CompositeUnpacking, LengthOfASequenceIsNotUsed) {
 
 TEST_F(CompositeUnpacking, SequenceAbsorbsTheChildThatFollowsIt) {
     const Bytes bytes = from_hex("0067 00000011 0017 00000001 05 0062 00000004 00000001"
-                                          "0061 00000004 00000002");
+                                 "0061 00000004 00000002");
     expect(unpack(samples::type("RabDataInfo"), bytes), true, 33, 3);
 }
 
@@ -221,11 +221,11 @@ TEST_F(CompositeUnpacking, MandatoryFailureTellsTheBytesBeforeIt) {
     const std::string cell = "0076 00000004 00000001";  // 10 bytes
     expect(unpack(type, from_hex("0074 00000000" + container + cell)), false, 24, 2);
     expect(unpack(type, from_hex("0074 00000000" + container + cell +
-                                          "009A 00000001 03")), // NumIuInstances: 1 or 2
+                                 "009A 00000001 03")), // NumIuInstances: 1 or 2
            false, 24, 2);
-    expect(unpack(type, from_hex("0074 00000000" + container +
-                                          "0076 00000004 10000000")), // 29 bits
-           false, 14, 1);
+    expect(
+        unpack(type, from_hex("0074 00000000" + container + "0076 00000004 10000000")), // 29 bits
+        false, 14, 1);
     expect(unpack(type, from_hex("0074 00000000" + cell + container)), false, 6, 0);
 }
 
@@ -236,12 +236,12 @@ TEST_F(CompositeUnpacking, OptionalChildOutOfOrderStaysUnconsumed) {
     const std::string algorithm = "000C 00000002 0001";
     expect(unpack(type, from_hex("0074 0000003F" + mandatory + algorithm + key)), true,
            6 + 23 + 8 + 22, 5);
-    expect(unpack(type, from_hex("0074 0000003F" + mandatory + key + algorithm)), true,
-           6 + 23 + 22, 4);
+    expect(unpack(type, from_hex("0074 0000003F" + mandatory + key + algorithm)), true, 6 + 23 + 22,
+           4);
     // Invalid: the key is 15 bytes long; what follows is then no longer at the position.
-    expect(unpack(type, from_hex("0074 0000003F" + mandatory +
-                                          "0010 0000000F 000102030405060708090A0B0C0D0E" +
-                                          "009D 00000002 0001")),
+    expect(unpack(type,
+                  from_hex("0074 0000003F" + mandatory +
+                           "0010 0000000F 000102030405060708090A0B0C0D0E" + "009D 00000002 0001")),
            true, 6 + 23, 3);
 }
 
@@ -249,10 +249,8 @@ TEST_F(CompositeUnpacking, OptionalListThatFailsIsLeftOut) {
     const Type &type = samples::type("UeContextRef");
     const std::string acUeId = "0003 00000004 00000001";
     // A list of no elements decodes, but is invalid; then the bytes of the list stay unconsumed.
-    expect(unpack(type, from_hex("005F 00000010" + acUeId + "0066 00000000")), true, 16,
-           1);
-    expect(unpack(type, from_hex("005F 00000010" + acUeId + "0066 00000007 0067")), true,
-           16, 1);
+    expect(unpack(type, from_hex("005F 00000010" + acUeId + "0066 00000000")), true, 16, 1);
+    expect(unpack(type, from_hex("005F 00000010" + acUeId + "0066 00000007 0067")), true, 16, 1);
     expect(unpack(samples::type("RabToSetupPerCnDomain"),
                   from_hex("007D 00000000 0006 00000002 0000 0015 00000000")),
            true, 20, 2); // where none is fine

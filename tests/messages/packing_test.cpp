@@ -67,9 +67,8 @@ TEST_F(MessagePacking, OnlyTheMessagesOwnIesArePacked) {
         const Nodes nodes = samples::make_message(*message, Amount::slim, random);
         for (const Message *other : protocol::messages()) {
             const bool fits = std::all_of(nodes.begin(), nodes.end(), [other](const Node &node) {
-                return std::any_of(
-                    other->slots.begin(), other->slots.end(),
-                    [&node](const Slot &slot) { return slot.type == node.type; });
+                return std::any_of(other->slots.begin(), other->slots.end(),
+                                   [&node](const Slot &slot) { return slot.type == node.type; });
             });
             EXPECT_EQ(pack(*other, nodes, &buffer), fits ? 1U : 0U)
                 << message->name << " as " << other->name;
