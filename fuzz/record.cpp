@@ -2,6 +2,7 @@
 //
 // Input: a byte that says what to do; for all but `ownRecord` one more that picks a message type;
 // then a message's bytes or a record's content.
+#include "support/samples.h"
 #include "walks.h"
 
 namespace {

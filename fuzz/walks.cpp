@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "support/samples.h"
+
 namespace fuzz {
 
 namespace {
