@@ -46,12 +46,16 @@ same "exported PDUs" theirs.bytes ours.bytes
     { echo "comments are missing"; failures=$((failures + 1)); }
 
 # The exchange on the loopback interface, where this user may capture there.
-if dumpcap -q -i lo -a duration:4 -f tcp -w lo.pcapng >dumpcap.log 2>&1 & then
+"${exchange}_ac" >port &
+controller=$!
+until [ -s port ]; do sleep 0.1; done
+if dumpcap -q -i lo -a duration:4 -f "tcp port $(cat port)" -w lo.pcapng >dumpcap.log 2>&1 & then
     capturing=$!
     sleep 2
-    "$exchange" >ladder
+    "${exchange}_ap" "$(cat port)" >ladder
     wait $capturing || true
 fi
+wait $controller || true
 if [ -s lo.pcapng ]; then
     arrows=$(grep -c -- '-->\|<--' ladder)
     found=$("$tool" decode --json --where verdict==valid lo.pcapng | wc -l)
