@@ -68,9 +68,11 @@ bool value_is_valid(TypeId id, const void *value) {
     return type.kind == Kind::record ? record_is_valid(type, value) : list_is_valid(type, value);
 }
 
+#ifndef TARN_BUILT_FOR_SPEED
 uint32_t measure_any(TypeId id, const void *value) {
     return value_is_valid(id, value) ? headerSize + value_size(id, value) : 0;
 }
+#endif
 
 // ---- Writing -----------------------------------------------------------------------------------
 
@@ -134,10 +136,12 @@ bool write_ie(TypeId id, const void *value, Output *out) {
     return true;
 }
 
+#ifndef TARN_BUILT_FOR_SPEED
 uint8_t *put_any(TypeId id, const void *value, uint8_t *at) {
     Output out{at, UINT32_MAX};
     write_ie(id, value, &out);
     return out.at;
 }
+#endif
 
 } // namespace tarn

@@ -101,15 +101,20 @@ TEST_F(CompositePacking, TagWrittenIsThatOfTheOperation) {
 // The room is compared with the size by the object's own tag: 6 for a tag that no IE has.
 TEST_F(CompositePacking, WrongTagOfTheObjectNeverWritesBeyondTheRoom) {
     Random random(6);
-    const Node node = samples::make_node(samples::type("RabDataInfo"), Amount::slim, random);
-    const IePtr ie = samples::make_ie(node);
-    ie->tag = 69;
-    for (std::uint32_t room = 6; room < samples::encode(node).size(); ++room) {
-        const Packed packed = pack(*node.type, ie.get(), room);
-        EXPECT_EQ(packed.result, 0U);
-        EXPECT_EQ(packed.written, room < 13 ? 6U : room < 23 ? 13U : 23U);
+    for (const Type *type : samples::composites()) {
+        SCOPED_TRACE(type->name);
+        const Node node = samples::make_node(*type, Amount::slim, random);
+        const IePtr ie = samples::make_ie(node);
+        ie->tag = 69;
+        for (std::uint32_t room = 6; room < samples::encode(node).size(); room += 1 + room / 64) {
+            const Packed packed = pack(*type, ie.get(), room);
+            EXPECT_EQ(packed.result, 0U);
+            if (std::string_view(type->name) == "RabDataInfo") {
+                EXPECT_EQ(packed.written, room < 13 ? 6U : room < 23 ? 13U : 23U);
+            }
+        }
+        ie->tag = std::uint16_t(type->tag);
     }
-    ie->tag = 103;
 }
 
 TEST_F(CompositePacking, StoredLengthBeyondTheArrayIsNotFollowed) {
