@@ -105,8 +105,9 @@ TEST_F(CompositePacking, WrongTagOfTheObjectNeverWritesBeyondTheRoom) {
         SCOPED_TRACE(type->name);
         const Node node = samples::make_node(*type, Amount::slim, random);
         const IePtr ie = samples::make_ie(node);
+        const std::size_t size = samples::encode(node).size();
         ie->tag = 69;
-        for (std::uint32_t room = 6; room < samples::encode(node).size(); room += 1 + room / 64) {
+        for (std::uint32_t room = 6; room < size; room += 1 + room / 64) {
             const Packed packed = pack(*type, ie.get(), room);
             EXPECT_EQ(packed.result, 0U);
             if (std::string_view(type->name) == "RabDataInfo") {
