@@ -13,8 +13,6 @@
 
 namespace {
 
-using tarn_host::Place;
-
 std::atomic<std::size_t> held{0};
 std::atomic<std::size_t> limit{SIZE_MAX};
 

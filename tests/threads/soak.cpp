@@ -167,7 +167,7 @@ struct Soak {
         std::for_each(threads.begin(), threads.end(), [this](auto &each) { begin_thread(each); });
         print("start");
         for (double next_print = 60; elapsed() < seconds;) {
-            std::thread &oldest = threads[begun % threads.size()];
+            std::thread &oldest = threads[std::size_t(begun % threads.size())];
             oldest.join();
             begin_thread(oldest);
             faults += fork_once(inputs, begun) ? 0 : 1;
