@@ -159,7 +159,7 @@ bool once_in(std::uint32_t times) {
 
 template <class List>
 auto &any_of(List &list) {
-    return list[dice.between(0, std::uint32_t(list.size() - 1))];
+    return list[dice.between(0, std::uint32_t(std::size(list) - 1))];
 }
 
 template <class T>
@@ -234,6 +234,23 @@ void spoil_at_header(Bytes *bytes) {
         const Type &type = *any_of(protocol::types());
         const Bytes other = samples::encode(samples::make_node(type, Amount::slim, dice));
         bytes->insert(ie, other.begin(), other.end());
+    }
+}
+
+// Breaks rules in a message that is otherwise whole: changes code words, which conditions look at,
+// makes values invalid and lists too short or too long.
+void break_rules(Nodes *nodes) {
+    for (Node &node : *nodes) {
+        const Type &type = *node.type;
+        if (type.shape == Shape::scalar && type.width < type.valueSize && once_in(2))
+            samples::set_number(node, dice.between(0, 4));
+        if (auto invalid = once_in(6) ? samples::make_invalid(type, dice) : std::nullopt)
+            node = *std::move(invalid);
+        const std::uint32_t counts[] = {0, type.least, type.greatest, type.greatest + 1};
+        if (type.shape == Shape::compositeList && once_in(4))
+            node.children.resize(any_of(counts),
+                                 samples::make_node(*type.item, Amount::slim, dice));
+        break_rules(&node.children);
     }
 }
 
@@ -486,11 +503,24 @@ Nodes any_nodes(const Message &type) {
     Nodes nodes = samples::make_message(type, any_amount(), dice, dice.between(0, 4));
     if (samples::encode(nodes).size() > longEnough && !once_in(32))
         nodes = samples::make_message(type, Amount::slim, dice, dice.between(0, 4));
+    if (once_in(4))
+        break_rules(&nodes);
     return nodes;
 }
 
+// Those with conditional IEs have most rules to break.
+const Message &any_message() {
+    static const std::vector<const Message *> conditional = [] {
+        std::vector<const Message *> found;
+        std::ranges::copy_if(protocol::messages(), std::back_inserter(found),
+                             [](const Message *type) { return samples::has_conditional(*type); });
+        return found;
+    }();
+    return *any_of(once_in(5) ? conditional : protocol::messages());
+}
+
 void message_case() {
-    const Message &type = *any_of(protocol::messages());
+    const Message &type = any_message();
     const Nodes nodes = any_nodes(type);
     const Bytes bytes = spoilt(nodes);
     const Block input(bytes.data(), bytes.size());
@@ -508,7 +538,10 @@ void message_case() {
 
 void ie_case() {
     const Type &type = *any_of(protocol::types());
-    const Node node = samples::make_node(type, any_amount(), dice);
+    Nodes nodes = {samples::make_node(type, any_amount(), dice)};
+    const Node &node = nodes.front();
+    if (once_in(4))
+        break_rules(&nodes);
     if (once_in(16))
         code_header();
     else if (!type.is_composite() && (!type.hasIe || once_in(2)))
@@ -517,7 +550,7 @@ void ie_case() {
     else if (type.hasIe && once_in(2))
         examine_ie(type, samples::make_ie(node).release());
     else
-        unpack_ie(type, spoilt({node}));
+        unpack_ie(type, spoilt(nodes));
 }
 
 } // namespace

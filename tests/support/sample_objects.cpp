@@ -158,7 +158,7 @@ void fill_member(const Node &node, std::uint8_t *member) {
     } else if (type.shape == Shape::compositeList) {
         const auto count = std::uint16_t(node.children.size());
         std::memcpy(member, &count, sizeof count);
-        for (std::size_t i = 0; i < count; ++i)
+        for (std::size_t i = 0; i < std::min<std::size_t>(count, type.capacity); ++i)
             fill_member(node.children[i], member + type.itemsOffset + i * type.stride);
     } else {
         std::memcpy(member, node.value.data(), node.value.size());
