@@ -16,7 +16,7 @@ using namespace tarn;
     }                                                                                              \
     uint32_t TarnExtract##child_##IeFrom##owner_##Ie(Tarn##owner_##Ie *ie,                         \
                                                      Tarn##child_##Ie **child) {                   \
-        return borrow(head_of(ie), reinterpret_cast<TarnIe **>(child), type##child_);              \
+        return borrow(head_of(ie), reinterpret_cast<TarnIe **>(child), asBuilt<type##child_>);     \
     }
 
 #define SEQUENCE(name_, ...) NEW_DOOR(name_)

@@ -14,7 +14,7 @@ using namespace tarn;
 
 #define MESSAGE(name_, ...)                                                                        \
     TarnMsg *TarnNew##name_##Msg(void) {                                                           \
-        return new_msg(message##name_);                                                            \
+        return new_msg(asBuilt<message##name_>);                                                   \
     }                                                                                              \
     uint32_t TarnIs##name_##MsgValid(const TarnMsg *msg) {                                         \
         return msg_is_valid(msg, message##name_);                                                  \
@@ -43,6 +43,6 @@ using namespace tarn;
         return link(msg, head_of(ie));                                                             \
     }                                                                                              \
     uint32_t TarnExtract##child_##IeFrom##owner_##Msg(TarnMsg *msg, Tarn##child_##Ie **ie) {       \
-        return borrow(msg, reinterpret_cast<TarnIe **>(ie), type##child_);                         \
+        return borrow(msg, reinterpret_cast<TarnIe **>(ie), asBuilt<type##child_>);                \
     }
 #include "catalogue/messages.def"

@@ -1,16 +1,9 @@
 #include "tarn_if_api/messages.h"
 
-#include "tarn_if_api/members.h"
 #include "tarn_if_internal_funcs/unpacking.h"
 #include "tarn_if_internal_funcs/validity.h"
 
 namespace tarn {
-
-TarnMsg *new_msg(MessageNumber id) {
-    TarnMsg *msg = create_msg(id, TARN_CALLER(moduleApi));
-    link_message_id(msg, id);
-    return msg;
-}
 
 uint32_t msg_is_valid(const TarnMsg *msg, MessageNumber id) {
     return msg != nullptr && msg->messageId == id &&

@@ -77,28 +77,34 @@ bool write_in_any_order(const SlotTable &table, const VelDllHead *list, const Ta
     return true;
 }
 
+// Writes those IEs, from *ie on, that stand in the order of constant slots, each at most once, and
+// moves *ie to the first that does not. They need no search for their slots.
+template <class Owner>
+TARN_INLINE bool write_in_order(const Owner &owner, const VelDllHead *list, const TarnIe **ie,
+                                Caller caller, Output *out) {
+    if constexpr (isConstant<Owner>)
+        return each_slot(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
+            if (*ie == nullptr || (*ie)->tag != slot.type) [[unlikely]]
+                return true;
+            if (!write_child(slot, *ie, out))
+                return false;
+            *ie = next_ie(list, *ie, caller);
+            return true;
+        });
+    else
+        return true;
+}
+
 // Writes the IEs of a list in list order, each of which must have a slot, and moves `out` behind
-// what was written; false at the first that has none or cannot be written. IEs that stand in the
-// order of constant slots, each at most once, need no search.
+// what was written; false at the first that has none or cannot be written.
 template <class Owner>
 TARN_SHARED bool write_slots(const Owner &owner, const VelDllHead *list, Caller caller,
                              Output *out) {
     const TarnIe *ie = first_ie(list, caller);
-    if constexpr (isConstant<Owner>) {
-        Output rest = *out; // whose address nobody else knows
-        const bool ok = each_slot(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
-            if (ie == nullptr || ie->tag != slot.type)
-                return true;
-            if (!write_child(slot, ie, &rest))
-                return false;
-            ie = next_ie(list, ie, caller);
-            return true;
-        });
-        *out = rest;
-        if (!ok || ie == nullptr)
-            return ok;
-    }
-    return write_in_any_order(slots_of(owner), list, ie, caller, out);
+    Output rest = *out; // whose address nobody else knows
+    const bool ok = write_in_order(owner, list, &ie, caller, &rest);
+    *out = rest;
+    return ok && (ie == nullptr || write_in_any_order(slots_of(owner), list, ie, caller, out));
 }
 
 template <class Id>
@@ -124,7 +130,7 @@ TARN_INLINE bool write_children(Id id, const VelDllHead *children, Output *out) 
         [&](auto list) TARN_INLINE_LAMBDA { return write_elements(list, children, out); });
 }
 
-// What is too long to be written aside, does not fit or cannot be packed.
+// What stands in another order, is too long to be written aside, does not fit or cannot be packed.
 [[gnu::noinline]] uint32_t pack_measured(const TarnMsg *msg, uint8_t *buffer, uint32_t size,
                                          const SlotTable &table) {
     if (ies_size(&msg->ies, TARN_CALLER(moduleApi)) > size) {
@@ -144,7 +150,9 @@ uint32_t pack_msg(const TarnMsg *msg, uint8_t *buffer, uint32_t size, Id id) {
 #ifdef TARN_BUILT_FOR_SPEED
     uint8_t aside[4096];
     Output out{aside, sizeof aside};
-    if (write_slots(id, &msg->ies, TARN_CALLER(moduleApi), &out)) [[likely]] {
+    const TarnIe *ie = first_ie(&msg->ies, TARN_CALLER(moduleApi));
+    if (write_in_order(id, &msg->ies, &ie, TARN_CALLER(moduleApi), &out) && ie == nullptr)
+        [[likely]] {
         const uint32_t needed = uint32_t(out.at - aside);
         if (needed <= size) [[likely]] {
             memcpy(buffer, aside, needed);

@@ -30,12 +30,14 @@ TARN_INLINE const uint8_t *make_ie(Id id, VelDllHead *list, const uint8_t *at, c
             TARN_INLINE_LAMBDA { return make_composite(composite, list, at, end); });
 }
 
-// Children or IEs of a message, up to `end` at the most.
+// Children or IEs of a message. Those of an owner that is a constant are whole; any other may be a
+// refused composite, and then they end anywhere.
 template <class Owner>
 TARN_SHARED const uint8_t *make_slots(const Owner &owner, VelDllHead *list, const uint8_t *at,
                                       const uint8_t *end) {
     each_slot(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
-        if (at == end)
+        const bool isSure = isConstant<Owner> && slot.presence == Presence::mandatory;
+        if (!isSure && at == end)
             return false;
         if (slot.presence == Presence::mandatory || load16(at) == slot.type)
             at = make_ie(slot.type, list, at, end);
@@ -102,10 +104,13 @@ uint32_t unpack_composite_ie(TarnIe *ie, const uint8_t *buffer, uint32_t availab
     Input in{buffer, available};
     const bool ok = decodes(judge_ie(id, nullptr, &in));
     *consumed = available - in.left;
-    if (*consumed > headerSize)
-        with_composite(id, [&](auto known) TARN_INLINE_LAMBDA {
-            make_children(known, children_of(ie), buffer + headerSize, in.at, in.at);
-        });
+    const auto make = [&](auto known) TARN_INLINE_LAMBDA {
+        make_children(known, children_of(ie), buffer + headerSize, in.at, in.at);
+    };
+    if (ok)
+        with_composite(id, make);
+    else if (*consumed > headerSize)
+        make(id);
     return ok || available == 0;
 }
 
