@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Fuzzes the library: scripts/fuzz.sh [--compact] [SECONDS-PER-TARGET] [TARGET...]
 # Builds it, or its compact form, with clang, AddressSanitizer and UndefinedBehaviorSanitizer in
-# build/fuzz or build/fuzz-compact and runs each target for so long (60 s by default), going on from
-# what earlier runs have found there. A finding ends the run with the file that shows it; kept in
-# fuzz/regressions, it is replayed by the tests.
+# build/fuzz or build/fuzz-compact and runs each target for so long (60 s by default), as many at once
+# as there are processors, going on from what earlier runs have found there. A finding ends a target's
+# run with the file that shows it; kept in fuzz/regressions, it is replayed by the tests.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -26,17 +26,16 @@ cmake -S . -B $build -G Ninja -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clan
     -DCMAKE_CXX_FLAGS_DEBUG="-O1 -gline-tables-only" \
     -DTARN_SANITIZE=address,undefined -DTARN_FUZZ=ON -DTARN_COMPACT=$compact \
     -DTARN_TESTS=OFF -DTARN_EXAMPLES=OFF >/dev/null
-cmake --build $build --target fuzz/all -- --quiet
-
-# The longest inputs that corpora begin with take some 4,100 bytes. Inputs take microseconds, but a
-# machine that does other things as well may stand still for long.
-options=(-max_total_time="$seconds" -max_len=5000 -timeout=120 -rss_limit_mb=1024
-    -dict=$build/fuzz/corpus/dictionary -print_final_stats=1)
+cmake --build $build --target "${@/%/_fuzz}" -- --quiet
 
 fuzz() { # target
     local found=$build/found/$1 log=$build/$1.log failed=0
     mkdir -p "$found" $build/findings
-    $build/fuzz/"$1"_fuzz "${options[@]}" -artifact_prefix="$build/findings/$1-" \
+    # The longest inputs that corpora begin with take some 4,100 bytes. Inputs take microseconds, but
+    # a machine that does other things as well may stand still for long.
+    $build/fuzz/"$1"_fuzz -max_total_time="$seconds" -max_len=5000 -timeout=120 \
+        -rss_limit_mb=1024 -dict=$build/fuzz/corpus/dictionary -print_final_stats=1 \
+        -artifact_prefix="$build/findings/$1-" \
         "$found" $build/fuzz/corpus/"$1" fuzz/regressions/"$1" >"$log" 2>&1 || failed=1
     awk -v target="$1" '
         /^INFO: Loaded/ && match($0, /\([0-9]+ inline/) { edges = substr($0, RSTART + 1, RLENGTH - 8) }
@@ -47,14 +46,15 @@ fuzz() { # target
                      target, executions, reached, edges, added }' "$log"
     if [ $failed -ne 0 ]; then
         grep -v '^#' "$log" | tail -40
-        echo "to see it again: $build/fuzz/$1_replay FILE, with the file written above" >&2
+        echo "to see it again: $build/fuzz/$1_fuzz FILE, with the file written above" >&2
         return 1
     fi
 }
 
-findings=0
-for target in "$@"; do
-    fuzz "$target" || findings=$((findings + 1))
-done
-echo "$findings of $# targets with findings"
-[ $findings -eq 0 ]
+export build seconds
+export -f fuzz
+if ! printf '%s\n' "$@" | xargs -P "$(nproc)" -n 1 bash -euo pipefail -c 'fuzz "$0"'; then
+    echo "there are findings"
+    exit 1
+fi
+echo "$# targets without findings"
