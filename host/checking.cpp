@@ -39,8 +39,7 @@ std::size_t taken_by(const Block &block) {
     return sizeof(Block) + block.size + 2 * kGuard;
 }
 
-// ---- What is wrong
-// -------------------------------------------------------------------------------
+// ---- What is wrong -----------------------------------------------------------------------------
 
 // Filled in while the lock is held, and told after that.
 struct Finding {
@@ -65,7 +64,8 @@ void describe(Finding &finding, const char *what, const void *address) {
 }
 
 bool is_filled(const unsigned char *bytes, std::size_t size, unsigned char value) {
-    return std::all_of(bytes, bytes + size, [value](unsigned char each) { return each == value; });
+    // Each byte like the one before it: quicker than one by one, most of all under sanitizers.
+    return size == 0 || (bytes[0] == value && std::memcmp(bytes, bytes + 1, size - 1) == 0);
 }
 
 void inspect(Finding &finding, const Block &block) {
@@ -85,8 +85,7 @@ uint32_t tell(const Finding &finding, Place place) {
     return finding ? 0 : 1;
 }
 
-// ---- Records, by address
-// -------------------------------------------------------------------------
+// ---- Records, by address -----------------------------------------------------------------------
 
 // The functions down to the next heading are called with the lock held.
 
@@ -142,8 +141,7 @@ void shrink_quarantine(Finding &finding, std::size_t bytes) {
 
 } // namespace
 
-// ---- Blocks
-// --------------------------------------------------------------------------------------
+// ---- Blocks ------------------------------------------------------------------------------------
 
 namespace {
 
@@ -268,8 +266,7 @@ void tarn_host::list_checked(FILE *stream) {
     twalk(tree, list_live);
 }
 
-// ---- Links
-// ---------------------------------------------------------------------------------------
+// ---- Links -------------------------------------------------------------------------------------
 
 bool tarn_host::may_link(const VelDllHead *head, const VelDllNode *node, Place place) {
     Finding finding;

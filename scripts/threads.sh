@@ -10,13 +10,13 @@ cmake -S . -B $build -G Ninja -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clan
 cmake --build $build --target threads_test host_test soak -- --quiet
 
 # ThreadSanitizer maps its shadow memory at fixed addresses, which some kernels' wide address
-# randomisation takes first. A child that was forked beside threads goes on: the host says it may.
+# randomisation takes first. Its own locks do not outlast a fork beside threads.
 run() {
-    TSAN_OPTIONS="halt_on_error=1 die_after_fork=0" setarch "$(uname -m)" -R $build/tests/"$@"
+    TSAN_OPTIONS=halt_on_error=1 setarch "$(uname -m)" -R $build/tests/"$@"
 }
-run host/host_test --gtest_brief=1
 for check in 0 1; do
     export TARN_HOST_CHECK=$check
+    run host/host_test --gtest_brief=1 --gtest_filter=-*AForkAtAnyMoment*
     run threads/threads_test --gtest_brief=1
-    run threads/soak 0.05 4
+    run threads/soak 0.05 4 unforked
 done
