@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Runs the tests on sanitized libraries: the compact form of the engine under AddressSanitizer and
 # UndefinedBehaviorSanitizer, and the one built for speed, of which the compiler makes many copies,
-# under AddressSanitizer; the fuzz targets see that one under both. The test programs are those of
-# build/release, which must be there: their own code would gain nothing, and blocks and copies are
-# watched whoever makes them.
+# under AddressSanitizer; the fuzz targets see that one under most of both. The test programs are
+# those of build/release, which must be there: their own code would gain nothing, and blocks and
+# copies are watched whoever makes them.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -15,6 +15,8 @@ run_tests() { # directory, sanitizers, CMake arguments
         -DCMAKE_CXX_FLAGS_DEBUG="$options" -DTARN_SANITIZE="$2" -DTARN_TESTS=OFF \
         -DTARN_TOOLS=OFF -DTARN_INFO=OFF -DTARN_EXAMPLES=OFF "${@:3}" >/dev/null
     cmake --build "$1" --target tarn tarn_host -- --quiet
+    # Whatever the form, a library without a host is refused when it is loaded.
+    LD_PRELOAD=$runtime build/release/tests/library_facts/refused_without_host "$1/src/libtarn.so.0"
     # The test host counts the library's blocks itself. Programs that are not ours, like the shell,
     # leave some of theirs to their end. A limit on addresses leaves none to the sanitizer, and the
     # host leaves all blocks to it: what the host keeps and how memory grows is not for here.

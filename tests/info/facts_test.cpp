@@ -30,6 +30,7 @@ TEST_F(Info, SaysOfTypesWhatTheRowsAndTheCompilerSay) {
         EXPECT_EQ(type->stride, row->stride) << row->name;
         EXPECT_EQ(type->slotCount, row->slots.size() + row->members.size()) << row->name;
     }
+    std::uint32_t greatest = 0;
     for (const protocol::Message *row : protocol::messages()) {
         const TarnInfoMessage *message = tarnInfoMessageById(row->id);
         ASSERT_EQ(message, tarnInfoMessageByName(row->name));
@@ -39,11 +40,14 @@ TEST_F(Info, SaysOfTypesWhatTheRowsAndTheCompilerSay) {
             EXPECT_EQ(message->slots[i].offset, row->slots[i].recordOffset);
             EXPECT_EQ(message->slots[i].presenceBit, row->slots[i].presenceBit);
         }
-        // The largest is just what fits.
+        // The largest is just what fits, but for IEs that exclude each other.
         Random random(1);
         const Bytes most = samples::encode(samples::make_message(*row, Amount::most, random));
         EXPECT_GE(message->largest, most.size()) << row->name;
+        EXPECT_LE(message->largest, most.size() + 80) << row->name;
+        greatest = std::max(greatest, message->largest);
     }
+    EXPECT_EQ(greatest, 70820U); // which docs/security.md tells callers to hold input against
 }
 
 TEST_F(Info, KnowsTokensAndModules) {
