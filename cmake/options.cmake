@@ -30,7 +30,7 @@ endif()
 
 if(TARN_SANITIZE)
     add_compile_options(-fsanitize=${TARN_SANITIZE} -fno-sanitize-recover=all
-                        -fno-omit-frame-pointer -g)
+                        -fno-omit-frame-pointer -g1)
     add_link_options(-fsanitize=${TARN_SANITIZE})
 endif()
 if(TARN_COVERAGE)

@@ -46,14 +46,14 @@ struct QuotedNames {
     }
     Quoted names[count];
 };
-const QuotedNames<tarn::slotCapacity> slotNames(facts.slots);
+const QuotedNames<tarn::slotCapacity> quotedSlotNames(facts.slots);
 const QuotedNames<tarn::memberCapacity> memberNames(facts.members);
 
 const Quoted &quoted_name(const TarnInfoSlot *slot) {
     const auto member = std::uintptr_t(slot) - std::uintptr_t(facts.members);
     if (member < sizeof facts.members)
         return memberNames.names[member / sizeof *slot];
-    return slotNames.names[slot - facts.slots];
+    return quotedSlotNames.names[slot - facts.slots];
 }
 
 class JsonPrinter {

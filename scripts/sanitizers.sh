@@ -7,7 +7,8 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-options="-O1 -g1"
+# Calls for the checks instead of code at each access: half the time to compile, and tests run little.
+options="-O1 --param=asan-instrumentation-with-call-threshold=0"
 runtime=$(g++ -print-file-name=libasan.so):$(g++ -print-file-name=libubsan.so)
 run_tests() { # directory, sanitizers, CMake arguments
     cmake -S . -B "$1" -G Ninja -DCMAKE_C_COMPILER=gcc -DCMAKE_CXX_COMPILER=g++ \

@@ -7,7 +7,7 @@
 namespace header_writer {
 namespace {
 
-constexpr const char *contract =
+constexpr const char *composite_contract =
     R"(The composite IEs: IEs whose value is other IEs, their children. For each composite IE C stand here
 its tag TarnCTag, its IE object type TarnCIe, its record type TarnCRecord, and its operations.
 
@@ -91,7 +91,7 @@ std::string nesting(const Catalogue &catalogue) {
     return lines;
 }
 
-std::string rule_text(UnpackRule rule) {
+std::string composite_rule(UnpackRule rule) {
     return rule == UnpackRule::refuseUncalled
                ? "\nUnpacking fails if a conditional child is missing although its condition "
                  "holds, and also if one stands there that is invalid or whose condition does not "
@@ -103,7 +103,7 @@ std::string layout_text(const Catalogue &catalogue, const Composite &row) {
     if (row.is_list())
         return "List of " + count_text(row.least, row.greatest) + " " + row.element + " (tag " +
                std::to_string(catalogue.composite(row.element).tag) + ").";
-    return "Sequence of:\n\n" + slot_table(catalogue, row.slots) + rule_text(row.rule);
+    return "Sequence of:\n\n" + slot_table(catalogue, row.slots) + composite_rule(row.rule);
 }
 
 void write_types(Page &page, const Composite &row) {
@@ -149,7 +149,7 @@ void write_operations(Page &page, const Composite &row) {
 
 Page composite_header(const Catalogue &catalogue) {
     Page page;
-    page.begin_header("TARN_IF_COMPOSITE_IES_H", contract + nesting(catalogue),
+    page.begin_header("TARN_IF_COMPOSITE_IES_H", composite_contract + nesting(catalogue),
                       {"tarn_if_primitive_ies.h"});
     for (const Composite &row : catalogue.composites) {
         page.entry(row.name + ", tag " + std::to_string(row.tag),

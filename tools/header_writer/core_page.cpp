@@ -3,7 +3,7 @@
 namespace header_writer {
 namespace {
 
-constexpr const char *contract =
+constexpr const char *core_contract =
     R"(libtarn: the messages of the signalling protocol between a 3G access point (AP) and the access
 controller (AC) that serves it. The library builds, checks, packs and unpacks them for both
 directions of the link. It does no input or output and keeps no state between calls; memory, lists
@@ -93,7 +93,7 @@ void write_primitives(Page &page) {
 
 Page core_header() {
     Page page;
-    page.begin_header("TARN_IF_H", contract,
+    page.begin_header("TARN_IF_H", core_contract,
                       {"tarn_if_composite_ies.h", "tarn_if_messages.h", "tarn_if_objects.h",
                        "tarn_if_primitive_ies.h"});
     page.section("Decoding a message of any type");

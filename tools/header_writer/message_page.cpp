@@ -7,7 +7,7 @@
 namespace header_writer {
 namespace {
 
-constexpr const char *contract =
+constexpr const char *message_contract =
     R"(The messages. For each message M stand here its id TarnMMsgId, its record type TarnMRecord and its operations, on
 message objects and, in one call, on the record. Its comment gives its IEs in wire order with the
 mandatory ones first; before them all stands the MessageId IE (tag 72, one byte: the message's id).
@@ -82,7 +82,7 @@ std::string index(const Catalogue &catalogue) {
     return lines;
 }
 
-std::string rule_text(UnpackRule rule) {
+std::string message_rule(UnpackRule rule) {
     switch (rule) {
     case UnpackRule::none:
         return "";
@@ -120,7 +120,7 @@ std::string memory_text(const Catalogue &catalogue, const Message &row) {
 void write_entry(Page &page, const Catalogue &catalogue, const Message &row) {
     page.entry(row.name + ", id " + std::to_string(row.id),
                row.term + ".\n\n" + slot_table(catalogue, row.slots) + "\n" + repetition_text(row) +
-                   rule_text(row.rule) + "Build writes " +
+                   message_rule(row.rule) + "Build writes " +
                    std::to_string(greatest_built_size(catalogue, row)) + " bytes at most." +
                    memory_text(catalogue, row));
 }
@@ -165,7 +165,7 @@ void write_record_operations(Page &page, const Message &row) {
 
 Page message_header(const Catalogue &catalogue) {
     Page page;
-    page.begin_header("TARN_IF_MESSAGES_H", contract + index(catalogue),
+    page.begin_header("TARN_IF_MESSAGES_H", message_contract + index(catalogue),
                       {"tarn_if_composite_ies.h"});
     for (const Message &row : catalogue.messages) {
         write_entry(page, catalogue, row);

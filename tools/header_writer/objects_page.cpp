@@ -3,7 +3,7 @@
 namespace header_writer {
 namespace {
 
-constexpr const char *contract =
+constexpr const char *objects_contract =
     R"(IE objects and message objects: what they hold, who owns them, and the operations that take any of
 them.
 
@@ -65,7 +65,7 @@ void write_sizes(Page &page) {
 
 Page objects_header() {
     Page page;
-    page.begin_header("TARN_IF_OBJECTS_H", contract, {"vel_platform.h"});
+    page.begin_header("TARN_IF_OBJECTS_H", objects_contract, {"vel_platform.h"});
     page.comment("The head of every IE object. Written by the library; a caller that makes an IE "
                  "object of its own sets the tag.");
     page.structure("TarnIe", {{"VelDllNode node", "linkage in the parent's list"},

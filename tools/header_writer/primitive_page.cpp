@@ -7,7 +7,7 @@
 namespace header_writer {
 namespace {
 
-constexpr const char *contract =
+constexpr const char *primitive_contract =
     R"(The primitive IEs: IEs that hold a value. For each IE X stand here its value type TarnX, its IE
 object type TarnXIe, its tag TarnXTag, and seven operations. Some types travel only inside others or have no tag at
 all; these have no IE object and only the first four operations.
@@ -251,7 +251,7 @@ std::string section_of(const Primitive &row) {
 
 Page primitive_header(const Catalogue &catalogue) {
     Page page;
-    page.begin_header("TARN_IF_PRIMITIVE_IES_H", contract, {"tarn_if_objects.h"});
+    page.begin_header("TARN_IF_PRIMITIVE_IES_H", primitive_contract, {"tarn_if_objects.h"});
     std::string section;
     for (const Primitive &row : catalogue.primitives) {
         if (section != section_of(row)) {

@@ -55,7 +55,7 @@ std::string primitive_table(const Catalogue &catalogue, const std::string &name,
     return text + "}\n\n";
 }
 
-std::string slots_text(const std::vector<Slot> &slots) {
+std::string slot_names(const std::vector<Slot> &slots) {
     const std::vector<uint32_t> bits = presence_bits(slots);
     std::string text = "(\n";
     for (size_t i = 0; i < slots.size(); ++i)
@@ -75,7 +75,7 @@ std::string composite_tables(const Catalogue &catalogue) {
             lists +=
                 head + quoted(row.element) + ", " + numbers({row.least, row.greatest}) + "),\n";
         else
-            sequences += head + slots_text(row.slots) + "),\n";
+            sequences += head + slot_names(row.slots) + "),\n";
     }
     return sequences + "}\n\n" + lists + "}\n\n";
 }
@@ -86,7 +86,7 @@ std::string message_table(const Catalogue &catalogue) {
     for (const Message &row : catalogue.messages)
         text += "    " + quoted(row.name) + ": (" +
                 numbers({row.id, greatest_built_size(catalogue, row)}) + ", " +
-                slots_text(row.slots) + "),\n";
+                slot_names(row.slots) + "),\n";
     return text + "}\n";
 }
 

@@ -46,7 +46,7 @@ private:
     std::vector<std::vector<std::string>> rows_;
 };
 
-constexpr const char *introduction = R"(# Reference tables
+constexpr const char *page_introduction = R"(# Reference tables
 
 <!-- Written by header_writer from the rows in src/catalogue; do not edit: change the rows or
 tools/header_writer, then run `cmake --build build --target tarn_headers`. -->
@@ -140,7 +140,7 @@ std::string layout_text(const Catalogue &catalogue, const Primitive &row) {
     return row.shape == Shape::list ? "items " + text : text;
 }
 
-std::string valid_text(const Primitive &row) {
+std::string valid_note(const Primitive &row) {
     if (row.shape == Shape::record)
         return "all members";
     return row.shape == Shape::list ? count_text(row.least, row.greatest) + " items"
@@ -177,7 +177,7 @@ std::string primitives_text(const Catalogue &catalogue) {
     for (const Primitive &row : rows) {
         const WireSize size = value_size(catalogue, row);
         table.add({tag_text(row), row.name, shape_text(row.shape), layout_text(catalogue, row),
-                   count_text(size.least, size.greatest), valid_text(row), row.term});
+                   count_text(size.least, size.greatest), valid_note(row), row.term});
     }
     return text + table.text();
 }
@@ -194,7 +194,7 @@ std::string tokens_text(const Catalogue &catalogue) {
 } // namespace
 
 std::string reference_tables(const Catalogue &catalogue) {
-    std::string text = introduction + messages_text(catalogue) + composites_text(catalogue) +
+    std::string text = page_introduction + messages_text(catalogue) + composites_text(catalogue) +
                        primitives_text(catalogue) + tokens_text(catalogue);
     text.pop_back(); // the empty line that the last table leaves
     return text;

@@ -86,7 +86,7 @@ std::string JsonEncoder::path() const {
 void JsonEncoder::fault(const std::string &what) {
     JsonFault found{path(), what};
     if (!is_forced())
-        throw found;
+        throw JsonFault(found);
     tell_(found);
 }
 

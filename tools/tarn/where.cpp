@@ -303,7 +303,7 @@ private:
             const std::size_t end = left_.find(left_.front(), 1);
             if (end == left_.npos)
                 refuse("a quote that does not close");
-            const Value quoted{std::string(left_.substr(1, end - 1)), {}};
+            Value quoted{std::string(left_.substr(1, end - 1)), {}};
             left_.remove_prefix(end + 1);
             return quoted;
         }
