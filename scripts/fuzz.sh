@@ -15,6 +15,10 @@ if [ "${1:-}" = --compact ]; then
     compact=ON
     shift
 fi
+if [[ "${1:-}" == -* ]]; then
+    sed -n '2,6s/^# \{0,1\}//p' "$0"
+    exit 2
+fi
 if [[ "${1:-}" =~ ^[0-9]+$ ]]; then
     seconds=$1
     shift
