@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # What the host's memory costs beside other allocators: instructions (callgrind) of an allocation
 # with its release, of three messages decoded and encoded, and of 12,000 blocks taken and released;
-# processor time of a RabAssignmentRequest on 1, 2 and 4 threads at once; MB resident with a gigabyte of small blocks,
-# after their release, with a gigabyte of larger ones, after theirs, and after 5,000 threads.
+# processor time of a RabAssignmentRequest on 1, 2 and 4 threads at once; MB resident with a gigabyte
+# of small blocks, after their release, with a gigabyte of larger ones, after theirs, and after 5,000
+# threads.
 #   ships      the host as it is built: a cache for each thread, before malloc
 #   pool       the pool of blocks that the host had before
 #   the others each block from that allocator in malloc's place, by a host that does no more than
@@ -58,7 +59,11 @@ instructions() { # OPERATION TURNS HOST
 }
 # The best of several, in turns with the others.
 nanoseconds() { sort -n $build/"$2"."$1" | head -1; }
-resident() { run "$3" $build/memory "$1" | cut -d' ' -f"$2"; }
+resident() { # bursts or threads, COLUMN HOST
+    local seen=$build/$3.$1
+    [ -s "$seen" ] || run "$3" $build/memory "$1" >"$seen"
+    cut -d' ' -f"$2" "$seen"
+}
 
 row "" echo
 row "instructions: one block" instructions pair 10000
@@ -66,7 +71,7 @@ row "  SecurityModeReject" instructions SecurityModeReject 200
 row "  UlDirectTransfer" instructions UlDirectTransfer 200
 row "  RabAssignmentRequest" instructions RabAssignmentRequest 30
 row "  12,000 blocks" instructions "12000 blocks" 3
-rm -f $build/*.[124]
+rm -f $build/*.{1,2,4,bursts,threads}
 for _ in 1 2 3 4 5; do
     for threads in 1 2 4; do
         for each in "${hosts[@]}"; do
