@@ -8,14 +8,7 @@
 #include "support/samples.h"
 #include "tarn_info.h"
 
-using protocol::Message;
-using samples::Amount;
-using samples::Bytes;
 using samples::Exact;
-using samples::MsgPtr;
-using samples::Node;
-using samples::Nodes;
-using samples::Random;
 
 namespace {
 

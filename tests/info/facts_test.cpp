@@ -7,11 +7,6 @@
 #include "support/samples.h"
 #include "tarn_info.h"
 
-using samples::Amount;
-using samples::Bytes;
-using samples::MsgPtr;
-using samples::Random;
-
 namespace {
 
 class Info : public LibraryTest {};

@@ -5,8 +5,6 @@
 #include "support/samples.h"
 #include "tarn_info.h"
 
-using samples::Bytes;
-
 namespace {
 
 class Printing : public LibraryTest {};

@@ -4,12 +4,6 @@
 #include "support/samples.h"
 #include "tarn_if.h"
 
-using protocol::Message;
-using samples::Amount;
-using samples::Bytes;
-using samples::Random;
-using samples::Record;
-
 namespace {
 
 std::size_t calls = 0;

@@ -26,10 +26,6 @@
 namespace {
 
 using Clock = std::chrono::steady_clock;
-using protocol::Message;
-using samples::Amount;
-using samples::Bytes;
-using samples::Random;
 
 struct Inputs {
     std::vector<Bytes> valid;
