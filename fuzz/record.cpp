@@ -12,8 +12,6 @@ using Tokens = std::vector<test_host::DebugToken>;
 
 enum Mode { ownRecord, anyRecord, otherRecord, wideRecord, modes };
 
-constexpr std::uint32_t getToken = 0xB4D9287C;
-
 // More than the longest message: HandoverRequest with every list full takes about 70,000 bytes.
 constexpr std::size_t amplyLong = 0x20000;
 
@@ -68,7 +66,7 @@ void check_own_record(const Block &input) {
     TarnMsg *msg = nullptr;
     HOLDS(got == TarnUnpackNewMsg(input.data(), input.size(), &msg));
     if (got == 0) {
-        HOLDS((tokens == Tokens{{getToken, 0}}) && record.is_filled_with(0));
+        HOLDS((tokens == Tokens{{samples::getToken, 0}}) && record.is_filled_with(0));
         return;
     }
     HOLDS(known && tokens.empty());

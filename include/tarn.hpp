@@ -1,5 +1,5 @@
 /* Written by header_writer from the rows in src/catalogue; do not edit: change the rows or
- * tools/header_writer, then run `cmake --build build --target tarn_headers`. */
+ * tools/header_writer, then run `cmake --build --preset release --target tarn_headers`. */
 
 /* libtarn for C++17: records and objects with types, over the C interface of tarn_if.h, which stays
  * at hand. Everything is inline and in namespace tarn; nothing throws, aborts or allocates but

@@ -1,5 +1,5 @@
 /* Written by header_writer from the rows in src/catalogue; do not edit: change the rows or
- * tools/header_writer, then run `cmake --build build --target tarn_headers`. */
+ * tools/header_writer, then run `cmake --build --preset release --target tarn_headers`. */
 
 /* libtarn: the messages of the signalling protocol between a 3G access point (AP) and the access
  * controller (AC) that serves it. The library builds, checks, packs and unpacks them for both

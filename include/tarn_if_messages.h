@@ -1,5 +1,5 @@
 /* Written by header_writer from the rows in src/catalogue; do not edit: change the rows or
- * tools/header_writer, then run `cmake --build build --target tarn_headers`. */
+ * tools/header_writer, then run `cmake --build --preset release --target tarn_headers`. */
 
 /* The messages. For each message M stand here its id TarnMMsgId, its record type TarnMRecord and
  * its operations, on message objects and, in one call, on the record. Its comment gives its IEs in

@@ -1,5 +1,5 @@
 /* Written by header_writer from the rows in src/catalogue; do not edit: change the rows or
- * tools/header_writer, then run `cmake --build build --target tarn_headers`. */
+ * tools/header_writer, then run `cmake --build --preset release --target tarn_headers`. */
 
 /* The primitive IEs: IEs that hold a value. For each IE X stand here its value type TarnX, its IE
  * object type TarnXIe, its tag TarnXTag, and seven operations. Some types travel only inside others

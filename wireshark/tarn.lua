@@ -2,7 +2,7 @@
 --
 -- Written by header_writer from the rows in src/catalogue and from wireshark/engine.lua and
 -- wireshark/plugin.lua; do not edit: change those, then run
--- `cmake --build build/dev --target tarn_headers`.
+-- `cmake --build --preset release --target tarn_headers`.
 
 local rows = {
   largestMessage = 70820,

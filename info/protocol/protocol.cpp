@@ -58,10 +58,10 @@ private:
     std::deque<Message> storedMessages_;
 };
 
-const char *condition_words(std::string_view name) {
-    for (const Condition &condition : conditions())
-        if (name == condition.name)
-            return condition.meaning;
+const Condition *condition(std::string_view name) {
+    for (const Condition &each : conditions())
+        if (name == each.name)
+            return &each;
     return nullptr;
 }
 
@@ -174,21 +174,23 @@ void Tables::fill_primitives() { // NOLINT(readability-function-size)
     type(#name_).recordSize = sizeof(Tarn##name_##Record);
 
 #define COMPOSITE_CHILD(owner_, child_, presence_, condition_, offset_)                            \
-    add_slot(                                                                                      \
-        type(#owner_).slots,                                                                       \
-        {#child_, &type(#child_), Presence::presence_, condition_words(#condition_), 0, offset_,   \
-         [](void *owner, const void *ie) {                                                         \
-             return TarnAppend##child_##IeTo##owner_##Ie(                                          \
-                 static_cast<Tarn##owner_##Ie *>(owner),                                           \
-                 static_cast<Tarn##child_##Ie *>(const_cast<void *>(ie)));                         \
-         },                                                                                        \
-         [](void *owner, void *ie) {                                                               \
-             return TarnExtract##child_##IeFrom##owner_##Ie(                                       \
-                 static_cast<Tarn##owner_##Ie *>(owner), static_cast<Tarn##child_##Ie **>(ie));    \
-         }});
+    add_slot(type(#owner_).slots,                                                                  \
+             {#child_, &type(#child_), Presence::presence_, condition(#condition_), 0, offset_,    \
+              [](void *owner, const void *ie) {                                                    \
+                  return TarnAppend##child_##IeTo##owner_##Ie(                                     \
+                      static_cast<Tarn##owner_##Ie *>(owner),                                      \
+                      static_cast<Tarn##child_##Ie *>(const_cast<void *>(ie)));                    \
+              },                                                                                   \
+              [](void *owner, void *ie) {                                                          \
+                  return TarnExtract##child_##IeFrom##owner_##Ie(                                  \
+                      static_cast<Tarn##owner_##Ie *>(owner),                                      \
+                      static_cast<Tarn##child_##Ie **>(ie));                                       \
+              }});
 
 void Tables::fill_composites() {
-#define SEQUENCE(name_, ...) COMPOSITE_FACTS(name_)
+#define SEQUENCE(name_, tag_, rule_, term_)                                                        \
+    COMPOSITE_FACTS(name_)                                                                         \
+    type(#name_).rule = UnpackRule::rule_;
 #define COMPOSITE_LIST(name_, tag_, element_, least_, greatest_, term_)                            \
     COMPOSITE_FACTS(name_)                                                                         \
     type(#name_).item = &type(#element_);                                                          \
@@ -201,7 +203,7 @@ void Tables::fill_composites() {
 #define PRIMITIVE_SLOT(owner_, child_, presence_, condition_)                                      \
     add_slot(                                                                                      \
         type(#owner_).slots,                                                                       \
-        {#child_, &type(#child_), Presence::presence_, condition_words(#condition_), 0,            \
+        {#child_, &type(#child_), Presence::presence_, condition(#condition_), 0,                  \
          offsetof(Tarn##owner_##Record, child_),                                                   \
          [](void *owner, const void *value) {                                                      \
              return TarnAppend##child_##To##owner_##Ie(static_cast<Tarn##owner_##Ie *>(owner),     \
@@ -215,7 +217,7 @@ void Tables::fill_composites() {
     COMPOSITE_CHILD(owner_, child_, presence_, condition_, offsetof(Tarn##owner_##Record, child_))
 #define SECOND_SLOT(owner_, child_, member_, presence_, condition_)                                \
     add_slot(type(#owner_).slots,                                                                  \
-             {#member_, &type(#child_), Presence::presence_, condition_words(#condition_), 0,      \
+             {#member_, &type(#child_), Presence::presence_, condition(#condition_), 0,            \
               offsetof(Tarn##owner_##Record, member_), nullptr, nullptr});
 #include "catalogue/composite_ies.def"
 }
@@ -225,7 +227,7 @@ void Tables::fill_composites() {
 // `given_` casts what is appended to what the operation takes.
 #define MESSAGE_SLOT(owner_, child_, presence_, condition_, given_, fetched_, append_, extract_)   \
     add_slot(messagesByName.at(#owner_)->slots,                                                    \
-             {#child_, &type(#child_), Presence::presence_, condition_words(#condition_), 0,       \
+             {#child_, &type(#child_), Presence::presence_, condition(#condition_), 0,             \
               offsetof(Tarn##owner_##Record, child_),                                              \
               [](void *msg, const void *given) {                                                   \
                   return append_(static_cast<TarnMsg *>(msg), given_(const_cast<void *>(given)));  \
@@ -242,6 +244,7 @@ void Tables::fill_messages() { // NOLINT(readability-function-size)
         messagesByName[#name_] = &m;                                                               \
         m.name = #name_;                                                                           \
         m.term = term_;                                                                            \
+        m.rule = UnpackRule::rule_;                                                                \
         m.id = id_;                                                                                \
         m.appendToken = append_token_;                                                             \
         m.validityToken = validity_token_;                                                         \
@@ -276,6 +279,21 @@ void Tables::fill_messages() { // NOLINT(readability-function-size)
               [](const Message *a, const Message *b) { return a->id < b->id; });
 }
 
+// The tags of what conditions look for.
+enum Tag : std::uint32_t {
+#define SCALAR(name_, tag_, ...) tag##name_ = tag_,
+#include "catalogue/primitive_ies.def"
+};
+
+// Becomes a pointer to whichever IE a predicate takes.
+struct AnyIe {
+    const void *ie;
+    template <class Ie>
+    operator const Ie *() const {
+        return static_cast<const Ie *>(ie);
+    }
+};
+
 const Tables &tables() {
     static const Tables all;
     return all;
@@ -284,14 +302,20 @@ const Tables &tables() {
 } // namespace
 
 const std::vector<Condition> &conditions() {
+    constexpr bool inside = true;
+    constexpr bool outside = false;
     static const std::vector<Condition> all = {
+#define CONDITION(name_, predicate_, ie_, values_, counts_, call_)                                 \
+    {#name_,                                                                                       \
+     #predicate_,                                                                                  \
+     tag##ie_,                                                                                     \
+     values_,                                                                                      \
+     counts_,                                                                                      \
+     [](const TarnMsg *msg, [[maybe_unused]] const void *ie) { return predicate_ call_; }},
 #define CONDITION_FOR_MSG(name_, predicate_, ie_, values_, counts_, meaning_)                      \
-    {#name_, #predicate_, meaning_,                                                                \
-     [](const TarnMsg *msg, const void *) { return predicate_(msg); }},
+    CONDITION(name_, predicate_, ie_, values_, counts_, (msg))
 #define CONDITION_FOR_IE(name_, predicate_, ie_, values_, counts_, meaning_)                       \
-    {#name_, #predicate_, meaning_, [](const TarnMsg *msg, const void *ie) {                       \
-         return predicate_(msg, static_cast<const TarnRabParamsIe *>(ie));                         \
-     }},
+    CONDITION(name_, predicate_, ie_, values_, counts_, (msg, AnyIe{ie}))
 #include "catalogue/conditions.def"
     };
     return all;

@@ -20,7 +20,11 @@ enum class Shape { scalar, bytes, record, list, sequence, compositeList };
 
 enum class Presence { mandatory, optional, conditional, repeated };
 
+// What an owner does with a conditional child, see UnpackRule in the catalogue.
+enum class UnpackRule { none, refuseUncalled, dropUncalled, dropUncalledRequireAtEnd };
+
 struct Type;
+struct Condition;
 
 // One member of a record value.
 struct Member {
@@ -34,8 +38,8 @@ struct Slot {
     const char *name; // of the record's member: the type's name, but for a type's second slot
     const Type *type;
     Presence presence;
-    const char *condition;    // in words, or null
-    std::uint8_t presenceBit; // in the owner's record; 0 for a mandatory slot
+    const Condition *condition; // null where none decides
+    std::uint8_t presenceBit;   // in the owner's record; 0 for a mandatory slot
     std::size_t recordOffset;
     // owner: the TarnMsg or composite IE object. A primitive is given or fetched as its value, a
     // composite as its IE object (extract then takes the address of a pointer). Null in a type's
@@ -63,6 +67,7 @@ struct Type {
     std::size_t itemsOffset = 0;
     std::vector<Member> members; // record
     std::vector<Slot> slots;     // sequence; a composite list has one slot, its element
+    UnpackRule rule = UnpackRule::none;
 
     // Primitives, by value. The arguments are those of the public header.
     std::uint32_t (*sizeOf)(const void *value) = nullptr;
@@ -91,6 +96,7 @@ struct Message {
     std::uint32_t packToken = 0;
     std::size_t recordSize = 0;
     std::vector<Slot> slots; // MessageId first
+    UnpackRule rule = UnpackRule::none;
 
     TarnMsg *(*create)() = nullptr;
     std::uint32_t (*isValid)(const TarnMsg *msg) = nullptr;
@@ -104,8 +110,14 @@ struct Message {
 struct Condition {
     const char *name;
     const char *predicate;
-    const char *meaning;
+    std::uint32_t tag;    // of the IE looked for
+    std::uint32_t values; // a set of numbers, one bit each
+    bool inside;          // whether the numbers of the set count, else all others
     std::uint32_t (*holds)(const TarnMsg *msg, const void *ie);
+
+    bool counts(std::uint32_t number) const {
+        return (number < 32 && (values >> number & 1) != 0) == inside;
+    }
 };
 
 // All types in tag order, those without a tag last; all messages by id.

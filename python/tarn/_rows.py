@@ -1,7 +1,7 @@
 """The protocol as rows."""
 
 # Written by header_writer from the rows in src/catalogue; do not edit: change the rows or
-# tools/header_writer, then run `cmake --build build --target tarn_headers`.
+# tools/header_writer, then run `cmake --build --preset release --target tarn_headers`.
 
 INTERFACE_VERSION = "39"
 

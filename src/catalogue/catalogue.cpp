@@ -105,10 +105,20 @@ constexpr bool conditions_hold(const SlotTable &table) {
     return true;
 }
 
+// A composite is judged valid while it is read. One that left out a child called for would not be.
+constexpr bool refuses_uncalled(const SlotTable &table) {
+    for (unsigned i = table.first; i < unsigned(table.first + table.count); ++i)
+        if (is_conditional(catalogue.slots[i]) &&
+            catalogue.slots[i].rule != UnpackRule::refuseUncalled)
+            return false;
+    return true;
+}
+
 constexpr bool all_tables_hold() {
     for (const Type &type : catalogue.types)
         if (type.kind == Kind::sequence &&
-            !(none_is_tried_again(type.slots) && conditions_hold(type.slots)))
+            !(none_is_tried_again(type.slots) && conditions_hold(type.slots) &&
+              refuses_uncalled(type.slots)))
             return false;
     for (const Message &message : catalogue.messages)
         if (!none_is_tried_again(message.slots) || !conditions_hold(message.slots))

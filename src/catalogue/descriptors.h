@@ -207,7 +207,8 @@ struct Message {
 };
 
 // What every Get reports; the messages' tokens are Build's.
-inline constexpr uint32_t getToken = 0xB4D9287C;
+#define GET_TOKEN(token_) inline constexpr uint32_t getToken = token_;
+#include "catalogue/messages.def"
 
 struct Condition {
     TypeId type;    // of the IE looked for

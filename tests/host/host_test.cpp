@@ -50,7 +50,7 @@ void release(void *block) {
     velFreeMemoryWithIds(&block, kModule, 2);
 }
 
-void useAllSizes() {
+void use_all_sizes() {
     std::vector<void *> blocks;
     for (std::size_t size = 8; size < 10000; size += 8) {
         blocks.push_back(allocate(size));
@@ -65,14 +65,14 @@ struct Filled {
     unsigned char value = 0;
 };
 
-Filled allocateFilled(std::size_t size, std::size_t value) {
+Filled allocate_filled(std::size_t size, std::size_t value) {
     const Filled filled{static_cast<unsigned char *>(allocate(size)), size,
                         static_cast<unsigned char>(value)};
     std::fill_n(filled.bytes, size, filled.value);
     return filled;
 }
 
-bool isIntact(const Filled &filled) {
+bool is_intact(const Filled &filled) {
     return std::all_of(filled.bytes, filled.bytes + filled.size,
                        [&filled](unsigned char byte) { return byte == filled.value; });
 }
@@ -122,12 +122,12 @@ TEST_F(HostMemory, BlocksOfAllSizesAreAlignedAndApart) {
     sizes.insert(sizes.end(), {8192, 65536, 1000000});
     std::vector<Filled> blocks;
     for (const std::size_t size : sizes) {
-        blocks.push_back(allocateFilled(size, blocks.size()));
+        blocks.push_back(allocate_filled(size, blocks.size()));
     }
     EXPECT_EQ(tarnHostLiveBlocks(), before() + sizes.size());
     for (const Filled &block : blocks) {
         EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block.bytes) % alignof(uint64_t), 0U);
-        EXPECT_TRUE(isIntact(block)) << block.size << " bytes";
+        EXPECT_TRUE(is_intact(block)) << block.size << " bytes";
         release(block.bytes);
     }
 }
@@ -138,7 +138,7 @@ TEST_F(HostMemory, FreeClearsTheCallersPointer) {
     EXPECT_EQ(block, nullptr);
 }
 
-std::string liveReport() {
+std::string live_report() {
     char *text = nullptr;
     std::size_t size = 0;
     FILE *const stream = open_memstream(&text, &size);
@@ -150,10 +150,10 @@ std::string liveReport() {
 }
 
 TEST_F(HostMemory, TheReportCountsBlocksAndBytes) {
-    EXPECT_EQ(liveReport(), "tarn: 0 live blocks, 0 bytes\n");
+    EXPECT_EQ(live_report(), "tarn: 0 live blocks, 0 bytes\n");
     void *const one = allocate(24);
     void *const other = allocate(1000008);
-    const std::string report = liveReport();
+    const std::string report = live_report();
     if (isChecked) {
         EXPECT_EQ(report.find("tarn: 2 live blocks, 1000032 bytes\ntarn: live: block 0x"), 0U);
         EXPECT_NE(report.find(" of 1000008 bytes, allocated in host_test:1\n"), std::string::npos);
@@ -162,21 +162,21 @@ TEST_F(HostMemory, TheReportCountsBlocksAndBytes) {
     }
     release(one);
     release(other);
-    EXPECT_EQ(liveReport(), "tarn: 0 live blocks, 0 bytes\n");
+    EXPECT_EQ(live_report(), "tarn: 0 live blocks, 0 bytes\n");
 }
 
 // Fills blocks for the next thread of the ring, then checks and frees those of the one before; many
 // enough at a time that free blocks must travel between the threads' caches.
-void passBlocksOn(uint32_t seed, Channel<Filled> &inbox, Channel<Filled> &outbox) {
+void pass_blocks_on(uint32_t seed, Channel<Filled> &inbox, Channel<Filled> &outbox) {
     constexpr std::array<std::size_t, 6> kSizes = {24, 32, 300, 2024, 4124, 9000};
     std::mt19937 random(seed);
     for (int round = 0; round < 10; ++round) {
         for (std::size_t i = 0; i < 600; ++i) {
-            outbox.send(allocateFilled(kSizes[random() % kSizes.size()], i));
+            outbox.send(allocate_filled(kSizes[random() % kSizes.size()], i));
         }
         for (std::size_t i = 0; i < 600; ++i) {
             const Filled received = inbox.receive();
-            EXPECT_TRUE(isIntact(received));
+            EXPECT_TRUE(is_intact(received));
             release(received.bytes);
         }
     }
@@ -187,7 +187,7 @@ TEST_F(HostMemory, ThreadsMayFreeEachOthersBlocks) {
     std::array<Channel<Filled>, kThreads> channels;
     std::vector<std::thread> threads;
     for (uint32_t i = 0; i < kThreads; ++i) {
-        threads.emplace_back(passBlocksOn, i, std::ref(channels[i]),
+        threads.emplace_back(pass_blocks_on, i, std::ref(channels[i]),
                              std::ref(channels[(i + 1) % kThreads]));
     }
     for (std::thread &thread : threads) {
@@ -199,20 +199,20 @@ TEST_F(HostMemory, BlocksOutliveTheirThread) {
     std::vector<Filled> blocks;
     std::thread([&blocks] {
         for (std::size_t i = 0; i < 300; ++i) {
-            blocks.push_back(allocateFilled(i, i));
+            blocks.push_back(allocate_filled(i, i));
         }
     }).join();
     EXPECT_EQ(tarnHostLiveBlocks(), before() + blocks.size());
     std::thread([] { release(allocate(100)); }).join();
     for (const Filled &block : blocks) {
-        EXPECT_TRUE(isIntact(block));
+        EXPECT_TRUE(is_intact(block));
         release(block.bytes);
     }
 }
 
 // Destructors of other thread-specific data run after the host has taken back the thread's cache,
 // which by then may be another thread's.
-void freeLate(void *block) {
+void free_late(void *block) {
     std::thread other([] { release(allocate(64)); });
     release(allocate(64));
     release(block);
@@ -222,7 +222,7 @@ void freeLate(void *block) {
 TEST_F(HostMemory, AThreadsLateDestructorsMayUseTheMemory) {
     release(allocate(1));
     pthread_key_t key;
-    ASSERT_EQ(pthread_key_create(&key, freeLate), 0);
+    ASSERT_EQ(pthread_key_create(&key, free_late), 0);
     std::thread([key] { pthread_setspecific(key, allocate(64)); }).join();
     pthread_key_delete(key);
 }
@@ -234,7 +234,7 @@ TEST_F(HostMemory, AThreadsLateDestructorsMayUseTheMemory) {
 // What malloc has handed out, or keeps for a thread as if it had, which makes the slack.
 constexpr std::size_t kSlack = 250000;
 
-std::size_t inUse() {
+std::size_t in_use() {
     return mallinfo2().uordblks;
 }
 
@@ -250,47 +250,47 @@ protected:
 
 TEST_F(HostMemoryReturns, AThreadKeepsLittleAndGivesItUpWhenTrimmed) {
     tarnHostTrim();
-    const std::size_t before = inUse();
-    useAllSizes();
-    EXPECT_LE(inUse(), before + 65536 + kSlack);
+    const std::size_t before = in_use();
+    use_all_sizes();
+    EXPECT_LE(in_use(), before + 65536 + kSlack);
     tarnHostTrim();
-    EXPECT_LE(inUse(), before + kSlack);
+    EXPECT_LE(in_use(), before + kSlack);
 }
 
 TEST_F(HostMemoryReturns, EndedThreadsKeepNothing) {
-    std::thread(useAllSizes).join();
+    std::thread(use_all_sizes).join();
     tarnHostTrim();
-    const std::size_t before = inUse();
+    const std::size_t before = in_use();
     for (int i = 0; i < 50; ++i) {
-        std::thread(useAllSizes).join();
+        std::thread(use_all_sizes).join();
     }
     tarnHostTrim();
-    EXPECT_LE(inUse(), before + kSlack);
+    EXPECT_LE(in_use(), before + kSlack);
 }
 
 // Without a key for thread-specific data the host is not told of a thread's end.
-void endThreadsWithoutKeys() {
+void end_threads_without_keys() {
     pthread_key_t key;
     while (pthread_key_create(&key, nullptr) == 0) {
     }
-    std::thread(useAllSizes).join();
-    const std::size_t before = inUse();
+    std::thread(use_all_sizes).join();
+    const std::size_t before = in_use();
     for (int i = 0; i < 50; ++i) {
-        std::thread(useAllSizes).join();
+        std::thread(use_all_sizes).join();
     }
-    std::_Exit(inUse() <= before + kSlack && tarnHostLiveBlocks() == 0 ? 0 : 1);
+    std::_Exit(in_use() <= before + kSlack && tarnHostLiveBlocks() == 0 ? 0 : 1);
 }
 
 using HostMemoryReturnsDeathTest = HostMemoryReturns;
 
 TEST_F(HostMemoryReturnsDeathTest, EndedThreadsKeepNothingWithoutKeysEither) {
     GTEST_FLAG_SET(death_test_style, "threadsafe"); // in a process that has no key yet
-    EXPECT_EXIT(endThreadsWithoutKeys(), testing::ExitedWithCode(0), "");
+    EXPECT_EXIT(end_threads_without_keys(), testing::ExitedWithCode(0), "");
 }
 
 #if HOST_TEST_HAS_PLAIN_MALLOC
 
-std::size_t residentBytes() {
+std::size_t resident_bytes() {
     std::size_t total = 0;
     std::size_t resident = 0;
     std::ifstream("/proc/self/statm") >> total >> resident;
@@ -299,16 +299,16 @@ std::size_t residentBytes() {
 
 TEST_F(HostMemoryReturns, BurstsOfDifferentSizesLeaveLittleBehind) {
     constexpr std::size_t kMegabyte = 1048576;
-    const std::size_t before = residentBytes();
+    const std::size_t before = resident_bytes();
     for (const std::size_t size : {24U, 300U}) {
         std::vector<void *> blocks(120 * kMegabyte / size);
         std::generate(blocks.begin(), blocks.end(), [size] { return allocate(size); });
-        EXPECT_GT(residentBytes(), before + 120 * kMegabyte);
+        EXPECT_GT(resident_bytes(), before + 120 * kMegabyte);
         std::for_each(blocks.begin(), blocks.end(), release);
-        EXPECT_LT(residentBytes() - blocks.size() * sizeof(void *), before + 80 * kMegabyte);
+        EXPECT_LT(resident_bytes() - blocks.size() * sizeof(void *), before + 80 * kMegabyte);
     }
     tarnHostTrim();
-    EXPECT_LT(residentBytes(), before + 10 * kMegabyte);
+    EXPECT_LT(resident_bytes(), before + 10 * kMegabyte);
 }
 
 #endif
@@ -450,7 +450,7 @@ TEST_F(HostMemory, ReachingTheLimitIsAFatalError) {
 
 #if HOST_TEST_HAS_PLAIN_MALLOC
 
-void allocateUntilNoneIsLeft(uint32_t size) {
+void allocate_until_none_is_left(uint32_t size) {
     const rlimit none{1, 1};
     setrlimit(RLIMIT_AS, &none);
     for (;;) {
@@ -460,7 +460,7 @@ void allocateUntilNoneIsLeft(uint32_t size) {
 
 TEST(HostMemoryDeathTest, RunningOutOfMemoryEndsTheProgram) {
     for (const uint32_t size : {32U, 4124U, 100000U, 4294967295U}) {
-        EXPECT_EXIT(allocateUntilNoneIsLeft(size), testing::KilledBySignal(SIGABRT),
+        EXPECT_EXIT(allocate_until_none_is_left(size), testing::KilledBySignal(SIGABRT),
                     "^tarn: fatal error in host_test:1: out of memory: no block of " +
                         std::to_string(size) + " bytes");
     }
@@ -470,7 +470,7 @@ TEST(HostMemoryDeathTest, RunningOutOfMemoryEndsTheProgram) {
 
 // ---- Fork ---------------------------------------------------------------------------------------
 
-void useEverything() {
+void use_everything() {
     for (const std::size_t size : {24U, 300U, 4000U, 9000U}) {
         std::array<void *, 40> blocks;
         std::generate(blocks.begin(), blocks.end(), [size] { return allocate(size); });
@@ -488,7 +488,7 @@ TEST_F(HostMemory, AForkAtAnyMomentLeavesTheChildAHostThatWorks) {
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&ends] {
             while (!ends) {
-                useEverything();
+                use_everything();
             }
         });
     }
@@ -497,7 +497,7 @@ TEST_F(HostMemory, AForkAtAnyMomentLeavesTheChildAHostThatWorks) {
         const pid_t child = fork();
         if (child == 0) {
             alarm(20);
-            useEverything();
+            use_everything();
             std::_Exit(0);
         }
         waitpid(child, &status, 0);
@@ -525,12 +525,12 @@ TEST(HostDebugTokens, AHandlerIsToldOfThem) {
     };
     Tokens tokens;
     EXPECT_EQ(tarnHostSetDebugTokenHandler(handler, &tokens).handler, nullptr);
-    velSwTokenDebug(0xB4D9287CU, 0);
+    velSwTokenDebug(0x7A0D00B2U, 0);
     velSwTokenDebug(5, 6);
     const TarnHostDebugTokenReport former = tarnHostSetDebugTokenHandler(nullptr, nullptr);
     EXPECT_EQ(former.handler, handler);
     EXPECT_EQ(former.context, &tokens);
-    EXPECT_EQ(tokens, (Tokens{{0xB4D9287CU, 0}, {5, 6}}));
+    EXPECT_EQ(tokens, (Tokens{{0x7A0D00B2U, 0}, {5, 6}}));
 }
 
 // Tells whether it was called with the context that it is set with.
@@ -538,16 +538,16 @@ std::array<int, 2> owners;
 std::atomic<int> strangers{0};
 
 template <std::size_t own>
-void checkOwner(void *context, uint32_t, uint32_t) {
+void check_owner(void *context, uint32_t, uint32_t) {
     strangers += context == &owners[own] ? 0 : 1;
 }
 
 TEST(HostDebugTokens, AHandlerNeverSeesTheContextOfAnother) {
-    tarnHostSetDebugTokenHandler(checkOwner<0>, &owners[0]);
+    tarnHostSetDebugTokenHandler(check_owner<0>, &owners[0]);
     std::thread setter([] {
         for (int i = 0; i < 20000; ++i) {
-            tarnHostSetDebugTokenHandler(checkOwner<1>, &owners[1]);
-            tarnHostSetDebugTokenHandler(checkOwner<0>, &owners[0]);
+            tarnHostSetDebugTokenHandler(check_owner<1>, &owners[1]);
+            tarnHostSetDebugTokenHandler(check_owner<0>, &owners[0]);
         }
     });
     for (int i = 0; i < 40000; ++i) {

@@ -51,7 +51,7 @@ TEST_F(Info, KnowsTokensAndModules) {
     EXPECT_STREQ(message->name, "RelocationCommand");
     EXPECT_EQ(tarnInfoToken(0xF82D7E10, nullptr), TarnInfoValidityStep);
     EXPECT_EQ(tarnInfoToken(0xCC2F29B3, nullptr), TarnInfoPackStep);
-    EXPECT_EQ(tarnInfoToken(0xB4D9287C, &message), TarnInfoGetStep);
+    EXPECT_EQ(tarnInfoToken(samples::getToken, &message), TarnInfoGetStep);
     EXPECT_EQ(message, nullptr);
     EXPECT_STRNE(tarnInfoModuleWords("tarn_if_api"), "unknown");
 }

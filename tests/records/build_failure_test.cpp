@@ -36,7 +36,7 @@ protected:
 };
 
 TEST_F(BuildFailure, TokensTellAllPointsOfFailureApart) {
-    std::set<std::uint32_t> tokens = {0xB4D9287C};
+    std::set<std::uint32_t> tokens = {samples::getToken};
     for (const Message *message : protocol::messages())
         for (const std::uint32_t token :
              {message->appendToken, message->validityToken, message->packToken})
@@ -166,8 +166,7 @@ TEST_F(BuildFailure, CountOfElementsBelowTheLeast) {
 TEST_F(BuildFailure, AbsentMembersAreNotRead) {
     Random random(5);
     for (const Message *message : protocol::messages()) {
-        const Nodes nodes =
-            samples::make_message(*message, Amount::least, random, message->id == 18 ? 1 : 2);
+        const Nodes nodes = samples::make_message(*message, Amount::least, random);
         Record record(*message, 0xFF);
         samples::fill_record(*message, nodes, &record);
         Bytes buffer(70000);
@@ -280,8 +279,7 @@ TEST_F(BuildFailure, AnyMembersAsModelled) {
             thin_out(message->slots, nodes, random);
             // Numbers that rules look at, so that what is there is no longer what is called for.
             for_each_primitive(nodes, [&random](Node &node) {
-                const std::uint32_t tag = node.type->tag;
-                if ((tag == 27 || tag == 100 || tag == 155) && random.between(0, 3) == 0)
+                if (samples::is_deciding(*node.type) && random.between(0, 3) == 0)
                     samples::set_number(node, random.between(0, 3));
             });
             SCOPED_TRACE(message->name);

@@ -112,6 +112,7 @@ bool value_is_valid(const Type &type, const std::uint8_t *value) {
     return inRange;
 }
 
+using protocol::UnpackRule;
 using samples::is_conditional;
 
 // ---- Validity ----------------------------------------------------------------------------------
@@ -207,23 +208,19 @@ bool may_end(const std::vector<Slot> &slots, std::size_t next, const Nodes &take
     return true;
 }
 
-struct Rules {
-    bool strict;              // RabParams refuses what another owner leaves out
-    bool requiresConditional; // RelocationRequired may not end before a conditional IE called for
-};
-
-bool read_slots(const std::vector<Slot> &slots, Rules rules, Input bytes, Nodes *taken,
+bool read_slots(const std::vector<Slot> &slots, UnpackRule rule, Input bytes, Nodes *taken,
                 std::size_t *consumed) {
     for (std::size_t i = 0; i < slots.size(); ++i) {
         const Input rest = bytes.subspan(*consumed);
         if (rest.empty())
-            return may_end(slots, i, *taken, rules.requiresConditional);
+            return may_end(slots, i, *taken, rule == UnpackRule::dropUncalledRequireAtEnd);
         Child child = read_child(*slots[i].type, rest);
         Verdict verdict = child.decoded && child.valid               ? Verdict::taken
                           : slots[i].presence == Presence::mandatory ? Verdict::refused
                                                                      : Verdict::skipped;
         if (is_conditional(slots[i]))
-            verdict = judge_conditional(child, samples::called_for(slots[i], *taken), rules.strict);
+            verdict = judge_conditional(child, samples::called_for(slots[i], *taken),
+                                        rule == UnpackRule::refuseUncalled);
         if (verdict == Verdict::refused)
             return false;
         if (verdict == Verdict::skipped)
@@ -279,10 +276,9 @@ Unpacked unpack_composite(const Type &type, Input bytes) {
         return result;
     std::size_t used = 0;
     const Input rest = bytes.subspan(6);
-    const Rules rules{true, false}; // RabParams alone has conditional children
     result.ok =
         type.shape == Shape::sequence
-            ? read_slots(type.slots, rules, rest, &result.children, &used)
+            ? read_slots(type.slots, type.rule, rest, &result.children, &used)
             : read_elements(*type.item, number_at(bytes, 2, 4), rest, &result.children, &used);
     result.consumed = std::uint32_t(6 + used);
     return result;
@@ -291,8 +287,7 @@ Unpacked unpack_composite(const Type &type, Input bytes) {
 std::optional<Nodes> unpack_msg(const Message &message, Input bytes) {
     Nodes nodes;
     std::size_t used = 0;
-    const Rules rules{false, message.id == 24};
-    if (bytes.empty() || !read_slots(message.slots, rules, bytes, &nodes, &used))
+    if (bytes.empty() || !read_slots(message.slots, message.rule, bytes, &nodes, &used))
         return {};
     return nodes;
 }

@@ -59,8 +59,15 @@ bool is_conditional(const Slot &slot) {
     return slot.presence == Presence::conditional || slot.presence == Presence::repeated;
 }
 
-bool has_conditional(const Message &message) {
-    return std::any_of(message.slots.begin(), message.slots.end(), is_conditional);
+bool has_conditional(const std::vector<Slot> &slots) {
+    return std::any_of(slots.begin(), slots.end(),
+                       [](const Slot &slot) { return slot.condition != nullptr; });
+}
+
+bool is_deciding(const Type &type) {
+    const auto &all = protocol::conditions();
+    return std::any_of(all.begin(), all.end(),
+                       [&type](const auto &condition) { return condition.tag == type.tag; });
 }
 
 bool operator==(const Node &a, const Node &b) {
@@ -151,43 +158,31 @@ void make_value(const Type &type, void *value, Amount amount, Random &random) {
     }
 }
 
-// A value that makes called_for say no, or yes as often as possible.
-std::uint32_t deciding_number(std::uint32_t tag, Amount amount, Random &random) {
+// A number for the IE with this tag that calls for no IE, or for as many as possible.
+std::uint32_t deciding_number(std::uint32_t tag, const std::vector<Slot> &slots, Amount amount,
+                              Random &random) {
+    const auto called = [&](std::uint32_t number) {
+        return std::count_if(slots.begin(), slots.end(), [&](const Slot &slot) {
+            return slot.condition != nullptr && slot.condition->tag == tag &&
+                   slot.condition->counts(number);
+        });
+    };
+    const auto fewer = [&](std::uint32_t a, std::uint32_t b) { return called(a) < called(b); };
+    static constexpr std::uint32_t numbers[] = {0, 1, 2, 3, 4};
     if (amount == Amount::random)
         return random.between(0, 4);
-    if (amount == Amount::least)
-        return tag == 27 || tag == 100 ? 1 : 2;
-    return tag == 155 ? 1 : 0;
-}
-
-bool is_deciding(std::uint32_t tag) {
-    return tag == 27 || tag == 100 || tag == 155; // TrafficClass, Reset3GAP, RelocationType
+    return amount == Amount::least
+               ? *std::min_element(std::begin(numbers), std::end(numbers), fewer)
+               : *std::max_element(std::begin(numbers), std::end(numbers), fewer);
 }
 
 } // namespace
 
 bool called_for(const Slot &slot, const Nodes &before) {
-    const auto decides = [&before](std::uint32_t tag, auto answer) {
-        for (const Node &node : before)
-            if (node.type->tag == tag)
-                return bool(answer(number_of(node)));
-        return false;
-    };
-    switch (slot.type->tag) {
-    case 30: // the second BitRates, SourceStatsDescriptor, TransDelay: real-time
-    case 47:
-    case 48:
-        return decides(27, [](std::uint32_t number) { return number == 0 || number == 2; });
-    case 49: // TrafficHandlingPriority: interactive
-        return decides(27, [](std::uint32_t number) { return number == 3; });
-    case 95: // UeContextRef
-        return decides(100, [](std::uint32_t number) { return number != 1; });
-    case 106: // TargetRNCId, ModifiedSrncContainer: intra-RAT
-    case 116:
-        return decides(155, [](std::uint32_t number) { return number == 1; });
-    default: // the classmarks and TargetCGI: inter-RAT
-        return decides(155, [](std::uint32_t number) { return number == 0; });
-    }
+    for (const Node &node : before)
+        if (node.type->tag == slot.condition->tag)
+            return slot.condition->counts(number_of(node));
+    return false;
 }
 
 Node make_node(const Type &type, Amount amount, Random &random) {
@@ -216,9 +211,9 @@ Nodes make_nodes(const std::vector<Slot> &slots, Amount amount, Random &random,
         if (!wanted)
             continue;
         nodes.push_back(make_node(*slot.type, amount, random));
-        if (is_deciding(slot.type->tag))
+        if (has_conditional(slots) && is_deciding(*slot.type))
             set_number(nodes.back(),
-                       deciding.value_or(deciding_number(slot.type->tag, amount, random)));
+                       deciding.value_or(deciding_number(slot.type->tag, slots, amount, random)));
     }
     return nodes;
 }

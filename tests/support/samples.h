@@ -19,6 +19,9 @@ namespace samples {
 
 using Bytes = std::vector<std::uint8_t>;
 
+// The debug token of every Get, held against the rows by being told once more.
+constexpr std::uint32_t getToken = 0xB4D9287C;
+
 // The same numbers for the same seed on every machine.
 class Random {
 public:
@@ -75,7 +78,9 @@ std::vector<std::uint16_t> tags_without_ie();
 std::uint32_t unknown_id();
 
 bool is_conditional(const protocol::Slot &slot);
-bool has_conditional(const protocol::Message &message);
+bool has_conditional(const std::vector<protocol::Slot> &slots);
+// Whether a condition looks at the IE.
+bool is_deciding(const protocol::Type &type);
 
 // ---- Making samples up -------------------------------------------------------------------------
 

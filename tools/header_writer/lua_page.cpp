@@ -11,7 +11,7 @@ constexpr const char *introduction =
 --
 -- Written by header_writer from the rows in src/catalogue and from wireshark/engine.lua and
 -- wireshark/plugin.lua; do not edit: change those, then run
--- `cmake --build build/dev --target tarn_headers`.
+-- `cmake --build --preset release --target tarn_headers`.
 
 )";
 

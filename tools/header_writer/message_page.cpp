@@ -59,7 +59,7 @@ TarnGetMMsg unpacks buffer into the record. It writes MessageId and the member o
 finds, sets the presence bits and counts, and leaves everything else as it was: clear the record, or
 at least its presence masks, before the call. A buffer that holds another message succeeds too and
 fills in the members that both share: compare MessageId. Failure to unpack is told to
-velSwTokenDebug (token 0xB4D9287C).
+velSwTokenDebug (token %s).
 
 Build and Get ask nothing of the host but to hear their reports, and leave buffer and record as they
 were when they return 0. They read what they are given twice: it must not change meanwhile, and
@@ -70,6 +70,11 @@ fails.
 
 The messages by id:
 )";
+
+std::string contract_text(const Catalogue &catalogue) {
+    std::string text = message_contract;
+    return text.replace(text.find("%s"), 2, token_text(catalogue.getToken));
+}
 
 std::string index(const Catalogue &catalogue) {
     size_t widest = 0;
@@ -165,7 +170,7 @@ void write_record_operations(Page &page, const Message &row) {
 
 Page message_header(const Catalogue &catalogue) {
     Page page;
-    page.begin_header("TARN_IF_MESSAGES_H", message_contract + index(catalogue),
+    page.begin_header("TARN_IF_MESSAGES_H", contract_text(catalogue) + index(catalogue),
                       {"tarn_if_composite_ies.h"});
     for (const Message &row : catalogue.messages) {
         write_entry(page, catalogue, row);

@@ -95,8 +95,12 @@ std::vector<Condition> read_conditions() {
     return rows;
 }
 
-template <typename Row>
-const Row &find(const std::vector<Row> &rows, const std::string &name) {
+constexpr uint32_t getToken =
+#define GET_TOKEN(token_) token_;
+#include "catalogue/messages.def"
+
+    template <typename Row>
+    const Row & find(const std::vector<Row> &rows, const std::string &name) {
     for (const Row &row : rows)
         if (row.name == name)
             return row;
@@ -176,7 +180,7 @@ const Composite &Catalogue::owner_of(const Condition &condition) const {
 
 Catalogue read_catalogue() {
     return {dependencies_first(read_primitives()), dependencies_first(read_composites()),
-            read_messages(), read_conditions()};
+            read_messages(), read_conditions(), getToken};
 }
 
 std::vector<uint32_t> presence_bits(const std::vector<Slot> &slots) {

@@ -83,6 +83,7 @@ struct Catalogue {
     std::vector<Composite> composites;
     std::vector<Message> messages;
     std::vector<Condition> conditions;
+    uint32_t getToken; // what every Get reports
 
     const Primitive &primitive(const std::string &name) const;
     const Composite &composite(const std::string &name) const;

@@ -190,8 +190,9 @@ void Page::function(const std::string &result, const std::string &name,
 }
 
 void Page::notice() {
-    comment("Written by header_writer from the rows in src/catalogue; do not edit: change the rows "
-            "or tools/header_writer, then run `cmake --build build --target tarn_headers`.");
+    comment(
+        "Written by header_writer from the rows in src/catalogue; do not edit: change the rows "
+        "or tools/header_writer, then run `cmake --build --preset release --target tarn_headers`.");
     line();
 }
 

@@ -7,7 +7,7 @@ namespace {
 
 constexpr const char *notice =
     "# Written by header_writer from the rows in src/catalogue; do not edit: change the rows or\n"
-    "# tools/header_writer, then run `cmake --build build --target tarn_headers`.\n\n";
+    "# tools/header_writer, then run `cmake --build --preset release --target tarn_headers`.\n\n";
 
 std::string quoted(const std::string &text) {
     return "\"" + text + "\"";

@@ -49,7 +49,7 @@ private:
 constexpr const char *page_introduction = R"(# Reference tables
 
 <!-- Written by header_writer from the rows in src/catalogue; do not edit: change the rows or
-tools/header_writer, then run `cmake --build build --target tarn_headers`. -->
+tools/header_writer, then run `cmake --build --preset release --target tarn_headers`. -->
 
 Every IE on the wire is a 2-byte tag, a 4-byte length and a value; integers are big-endian. A
 message is a run of IEs. What the operations do with them stands in the headers in `include/`.
@@ -85,9 +85,8 @@ of their own; types without a tag are bare value codecs.
 
 constexpr const char *tokensIntroduction = R"(## Debug tokens
 
-What the one-call Build reports to `velSwTokenDebug`, with value 0, when a step fails.
-
-)";
+What the one-call operations report to `velSwTokenDebug`, with value 0, when a step fails: Build by
+a token for each message and step, every Get by )";
 
 std::string slots_text(const Catalogue &catalogue, const std::vector<Slot> &slots) {
     const std::vector<uint32_t> bits = presence_bits(slots);
@@ -183,7 +182,7 @@ std::string primitives_text(const Catalogue &catalogue) {
 }
 
 std::string tokens_text(const Catalogue &catalogue) {
-    std::string text = tokensIntroduction;
+    const std::string text = tokensIntroduction + token_text(catalogue.getToken) + ".\n\n";
     Table table({"Message", "Append", "Validity", "Packing"});
     for (const Message &row : catalogue.messages)
         table.add({row.name, token_text(row.appendToken), token_text(row.validityToken),
