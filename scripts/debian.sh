@@ -9,8 +9,8 @@ rm -rf "$work"
 mkdir -p "$work/libtarn"
 git ls-files -z --cached --others --exclude-standard | xargs -0 cp --parents -t "$work/libtarn"
 cd "$work/libtarn"
-# The tests run elsewhere.
-DEB_BUILD_OPTIONS="nocheck noautodbgsym parallel=$(nproc) ${DEB_BUILD_OPTIONS:-}" \
+# The tests run elsewhere, and packages of debug information are not asked for.
+DEB_CXXFLAGS_APPEND=-g0 DEB_BUILD_OPTIONS="nocheck noautodbgsym parallel=$(nproc) ${DEB_BUILD_OPTIONS:-}" \
     dpkg-buildpackage --build=binary --no-sign "$@" >"$work/log" 2>&1 ||
     { tail -40 "$work/log"; exit 1; }
 cd "$work"
