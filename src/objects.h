@@ -64,12 +64,9 @@ void delete_ie(TarnIe *ie);
 // Releases the message object and all its IEs.
 void delete_msg(TarnMsg *msg);
 
-// The operations of the same names in the public interface.
-void delete_ie_checked(TarnIe *ie);
-void delete_msg_checked(TarnMsg *msg);
-uint32_t ie_tag_checked(const TarnIe *ie);
-void reset_ie_history(TarnIe *ie);
-void reset_msg_history(TarnMsg *msg);
+// Lets extracts begin anew, here and in all below.
+void reset_ie(TarnIe *ie);
+void reset_all(VelDllHead *list);
 
 } // namespace tarn
 

@@ -54,8 +54,6 @@ struct Input {
         at += count;
         left -= count;
     }
-    // Whether an IE of this tag starts here, as far as its first two bytes tell.
-    TARN_INLINE bool has_tag(uint32_t tag) const { return left >= tagSize && load16(at) == tag; }
 };
 
 // Room that is still to be written.

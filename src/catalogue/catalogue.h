@@ -22,13 +22,11 @@ namespace tarn::making {
 
 constexpr void add_slot(Catalogue &c, int number, int ownerBegin, TypeId type, Presence presence,
                         ConditionId condition, UnpackRule rule, size_t offset) {
-    unsigned bit = 0x80;
+    unsigned before = 0;
     for (int i = ownerBegin; i < number; ++i)
-        if (c.slots[i].presence != Presence::mandatory)
-            bit >>= 1;
-    if (presence == Presence::mandatory)
-        bit = 0;
-    c.slots[number] = {type, presence, condition, rule, uint8_t(bit), uint16_t(offset)};
+        before += c.slots[i].presence != Presence::mandatory;
+    c.slots[number] = {
+        type, presence, condition, rule, presence_bit(presence, before), uint16_t(offset)};
 }
 
 constexpr void add_slots(Catalogue &c) {
@@ -260,9 +258,13 @@ inline const Slot *slots_end(const SlotTable &table) {
     return slots_begin(table) + table.count;
 }
 
-template <class AnySlot>
-inline constexpr bool is_conditional(const AnySlot &slot) {
+inline constexpr bool is_conditional(const Slot &slot) {
     return slot.presence >= Presence::conditional;
+}
+
+// Whether a record has the slot's member, by the record's presence mask.
+inline constexpr bool is_present(const Slot &slot, unsigned mask) {
+    return slot.presence == Presence::mandatory || (mask & slot.presenceBit) != 0;
 }
 
 struct Members {

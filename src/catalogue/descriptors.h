@@ -138,6 +138,12 @@ enum class Presence : uint8_t {
     repeated, // conditional, and any number of times from its position on
 };
 
+// The bit of a slot in its owner's presence mask: 0 for a mandatory one, else by how many that are
+// not mandatory stand before it.
+inline constexpr uint8_t presence_bit(Presence presence, unsigned before) {
+    return presence == Presence::mandatory ? 0 : uint8_t(0x80U >> before);
+}
+
 // What the unpacker does with a conditional child, beyond this: one that is called for and cannot
 // be decoded always refuses its owner. The peers' implementations differ on purpose, and each side
 // relies on the other's leniency, so the three rules stay apart.

@@ -1,4 +1,4 @@
-// Messages: creating and validating them, and decoding a buffer of unknown type.
+// Messages: creating and validating them.
 #ifndef TARN_MESSAGES_H
 #define TARN_MESSAGES_H
 
@@ -16,9 +16,6 @@ TARN_SHARED TarnMsg *new_msg(Id id) {
 
 // Whether the message keeps the rules of the type; 0 for a null message, without a report.
 uint32_t msg_is_valid(const TarnMsg *msg, MessageNumber id);
-
-// Stores in *msg the message that the bytes hold, or null.
-uint32_t unpack_new_msg(const uint8_t *buffer, uint32_t length, TarnMsg **msg);
 
 } // namespace tarn
 

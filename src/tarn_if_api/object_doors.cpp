@@ -1,20 +1,22 @@
 // The exported operations on IE and message objects of any type.
 #include "objects.h"
 #include "tarn_if.h"
-#include "tarn_if_api/messages.h"
+#include "tarn_if_internal_funcs/unpacking.h"
 
 using namespace tarn;
 
 void TarnDeleteIe(TarnIe *ie) {
-    delete_ie_checked(ie);
+    if (!any_null(TARN_CALLER(moduleApi), ie))
+        delete_ie(ie);
 }
 
 void TarnDeleteMsg(TarnMsg *msg) {
-    delete_msg_checked(msg);
+    if (!any_null(TARN_CALLER(moduleApi), msg))
+        delete_msg(msg);
 }
 
 uint32_t TarnGetIeTag(const TarnIe *ie) {
-    return ie_tag_checked(ie);
+    return any_null(TARN_CALLER(moduleApi), ie) ? 0 : ie->tag;
 }
 
 const char *TarnGetInterfaceVersion(void) {
@@ -22,13 +24,23 @@ const char *TarnGetInterfaceVersion(void) {
 }
 
 void TarnResetIeExtractHistory(TarnIe *ie) {
-    reset_ie_history(ie);
+    if (!any_null(TARN_CALLER(moduleApi), ie))
+        reset_ie(ie);
 }
 
 void TarnResetMsgExtractHistory(TarnMsg *msg) {
-    reset_msg_history(msg);
+    if (!any_null(TARN_CALLER(moduleApi), msg))
+        reset_all(&msg->ies);
 }
 
+// *msg is the message that the bytes hold, or null.
 uint32_t TarnUnpackNewMsg(const uint8_t *buffer, uint32_t length, TarnMsg **msg) {
-    return unpack_new_msg(buffer, length, msg);
+    const bool missing = any_null(TARN_CALLER(moduleApi), msg, buffer);
+    if (msg != nullptr)
+        *msg = nullptr;
+    if (missing)
+        return 0;
+    TarnMsg *unpacked = unpack_msg_of_any_type(buffer, length);
+    *msg = unpacked;
+    return unpacked != nullptr;
 }

@@ -72,7 +72,7 @@ TARN_SHARED Outcome measure_slots(const Owner &owner, const void *record, unsign
     bool conditionsAreMet = true;
     const bool all = each_slot_behind<skipped>(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
         bool isValid = false;
-        if (slot.presence == Presence::mandatory || (mask & slot.presenceBit) != 0) {
+        if (is_present(slot, mask)) {
             const Outcome child = measure_member(slot.type, at_offset(record, slot.recordOffset));
             if (child.reason == Reason::outOfRange)
                 return false;
@@ -139,7 +139,7 @@ TARN_SHARED uint8_t *put_slots(const Owner &owner, const void *record, unsigned 
                                uint8_t *at) {
     const unsigned mask = mask_of(record, maskOffset);
     each_slot_behind<skipped>(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
-        if (slot.presence == Presence::mandatory || (mask & slot.presenceBit) != 0)
+        if (is_present(slot, mask))
             at = put_member(slot.type, at_offset(record, slot.recordOffset), at);
         return true;
     });
@@ -171,14 +171,14 @@ uint8_t *put_composite(Id id, const void *record, uint8_t *at) {
 // ---- Filling a record from bytes that were judged good -----------------------------------------
 
 template <class Id>
-const uint8_t *get_composite(Id id, void *record, const uint8_t *at, const uint8_t *end);
+const uint8_t *fill_composite(Id id, void *record, const uint8_t *at, const uint8_t *end);
 
 // Stores the IE that stands here in its owner's record. Presence bits are set and never cleared,
 // and the members of absent IEs are left alone: a caller may gather several messages into one
 // record.
 template <class AnySlot>
-TARN_INLINE const uint8_t *get_member(const AnySlot &slot, void *record, unsigned maskOffset,
-                                      const uint8_t *at, const uint8_t *end) {
+TARN_INLINE const uint8_t *fill_member(const AnySlot &slot, void *record, unsigned maskOffset,
+                                       const uint8_t *at, const uint8_t *end) {
     if (slot.presence != Presence::mandatory)
         *static_cast<uint8_t *>(at_offset(record, maskOffset)) |= slot.presenceBit;
     void *const member = at_offset(record, slot.recordOffset);
@@ -187,48 +187,48 @@ TARN_INLINE const uint8_t *get_member(const AnySlot &slot, void *record, unsigne
         [&](auto primitive) TARN_INLINE_LAMBDA { return fill_value(primitive, member, at); },
         [&](auto composite) TARN_INLINE_LAMBDA {
             return with_composite(composite, [&](auto known) TARN_INLINE_LAMBDA {
-                return get_composite(known, member, at, end);
+                return fill_composite(known, member, at, end);
             });
         });
 }
 
 template <class Owner>
-TARN_SHARED const uint8_t *get_slots(const Owner &owner, void *record, unsigned maskOffset,
-                                     const uint8_t *at, const uint8_t *end) {
+TARN_SHARED const uint8_t *fill_slots(const Owner &owner, void *record, unsigned maskOffset,
+                                      const uint8_t *at, const uint8_t *end) {
     each_slot(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
         if (slot.presence == Presence::mandatory || (at != end && load16(at) == slot.type))
-            at = get_member(slot, record, maskOffset, at, end);
+            at = fill_member(slot, record, maskOffset, at, end);
         return true;
     });
     return at;
 }
 
 template <class Id>
-TARN_INLINE const uint8_t *get_elements(Id id, void *record, const uint8_t *at, uint32_t length,
-                                        const uint8_t *end) {
+TARN_INLINE const uint8_t *fill_elements(Id id, void *record, const uint8_t *at, uint32_t length,
+                                         const uint8_t *end) {
     const Type &type = type_of(id);
     const uint8_t *const stop = at + length;
     uint16_t count = 0;
     while (at != stop)
-        at = get_composite(element_of(id), item_of(type, record, count++), at, end);
+        at = fill_composite(element_of(id), item_of(type, record, count++), at, end);
     *static_cast<uint16_t *>(record) = count;
     return at;
 }
 
 template <class Id>
-const uint8_t *get_composite(Id id, void *record, const uint8_t *at, const uint8_t *end) {
+const uint8_t *fill_composite(Id id, void *record, const uint8_t *at, const uint8_t *end) {
     const uint32_t length = load32(at + tagSize);
     at += headerSize;
     return by_kind<is_sequence>(
         id,
         [&](auto sequence) TARN_INLINE_LAMBDA {
-            return get_slots(owner_of(sequence), record, sequenceMaskOffset, at, end);
+            return fill_slots(owner_of(sequence), record, sequenceMaskOffset, at, end);
         },
-        [&](auto list) TARN_INLINE_LAMBDA { return get_elements(list, record, at, length, end); });
+        [&](auto list) TARN_INLINE_LAMBDA { return fill_elements(list, record, at, length, end); });
 }
 
 // Stores what the message that was judged good shares with the record's type.
-void get_shared(const SlotTable &table, const SlotTable &own, Input in, void *record) {
+void fill_shared(const SlotTable &table, const SlotTable &own, Input in, void *record) {
     const uint8_t *const start = in.at;
     for (const Slot *slot = slots_begin(table); slot != slots_end(table); ++slot) {
         const uint8_t *const at = in.at;
@@ -236,7 +236,7 @@ void get_shared(const SlotTable &table, const SlotTable &own, Input in, void *re
             continue;
         for (const Slot *shared = slots_begin(own); shared != slots_end(own); ++shared)
             if (shared->type == slot->type)
-                get_member(*shared, record, msgMaskOffset, at, in.at);
+                fill_member(*shared, record, msgMaskOffset, at, in.at);
     }
 }
 
@@ -254,7 +254,7 @@ uint32_t get_any(const uint8_t *buffer, uint32_t length, void *record, MessageNu
     Input in{buffer, length};
     if (!decodes(judge_slots(table, &in)))
         return fail_get();
-    get_shared(table, slots_of(own), Input{buffer, length}, record);
+    fill_shared(table, slots_of(own), Input{buffer, length}, record);
     return 1;
 }
 
@@ -298,7 +298,7 @@ uint32_t get_msg(const uint8_t *buffer, uint32_t length, void *record, Id id) {
 #ifdef TARN_BUILT_FOR_SPEED
     const uint8_t *const end = plain_slots(owner_of(id), buffer, buffer + length);
     if (end != nullptr && buffer[headerSize] == id) [[likely]] {
-        get_slots(id, record, msgMaskOffset, buffer, end);
+        fill_slots(id, record, msgMaskOffset, buffer, end);
         return 1;
     }
 #endif

@@ -7,11 +7,14 @@
 using namespace tarn;
 
 uint32_t TarnSizeOfIe(const TarnIe *ie) {
-    return ie_size_checked(ie);
+    return any_null(TARN_CALLER(moduleInternal), ie) ? 0 : ie_size(ie);
 }
 
 int32_t TarnSizeOfMsg(const TarnMsg *msg) {
-    return msg_size_checked(msg);
+    if (any_null(TARN_CALLER(moduleApi), msg))
+        return 0;
+    const uint32_t size = ies_size(&msg->ies, TARN_CALLER(moduleApi));
+    return size > INT32_MAX ? INT32_MAX : int32_t(size);
 }
 
 uint32_t TarnIsComplexType(uint32_t tag) {
@@ -19,5 +22,5 @@ uint32_t TarnIsComplexType(uint32_t tag) {
 }
 
 uint32_t TarnGetMessageId(const uint8_t *buffer, uint32_t length) {
-    return peek_message_id_checked(buffer, length);
+    return any_null(TARN_CALLER(moduleInternal), buffer) ? 0 : peek_message_id(buffer, length);
 }

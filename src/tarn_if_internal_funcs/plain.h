@@ -152,7 +152,7 @@ TARN_INLINE const uint8_t *plain_run(const uint8_t *at, const uint8_t *end) {
         return is_plain(slot.type, ie);
     };
     constexpr unsigned first = slots_of(Owner::value).first;
-    return visit_fixed<first>(IndicesBelow<run.slots>(), visit) ? at : nullptr;
+    return visit_fixed<&Catalogue::slots, first>(IndicesBelow<run.slots>(), visit) ? at : nullptr;
 }
 
 // From the first IE on. An optional child that is not there is passed over; one that is cut off is

@@ -24,15 +24,4 @@ uint32_t ies_size(const VelDllHead *list, Caller caller) {
     return size;
 }
 
-uint32_t ie_size_checked(const TarnIe *ie) {
-    return any_null(TARN_CALLER(moduleInternal), ie) ? 0 : ie_size(ie);
-}
-
-int32_t msg_size_checked(const TarnMsg *msg) {
-    if (any_null(TARN_CALLER(moduleApi), msg))
-        return 0;
-    const uint32_t size = ies_size(&msg->ies, TARN_CALLER(moduleApi));
-    return size > INT32_MAX ? INT32_MAX : int32_t(size);
-}
-
 } // namespace tarn

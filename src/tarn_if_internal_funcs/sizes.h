@@ -13,10 +13,6 @@ uint32_t ie_size(const TarnIe *ie);
 // Returns the sum over all IEs of the list. The caller tells whose list it is.
 uint32_t ies_size(const VelDllHead *list, Caller caller);
 
-// The operations of the public interface.
-uint32_t ie_size_checked(const TarnIe *ie);
-int32_t msg_size_checked(const TarnMsg *msg);
-
 } // namespace tarn
 
 #endif

@@ -110,20 +110,20 @@ TARN_INLINE auto by_kind(Id id, UseThat that, UseOther other) {
     }
 }
 
-// A slot whose fields are constants.
-template <unsigned index>
-struct FixedSlot {
-    static constexpr const Slot &row = catalogue.slots[index];
-    static constexpr Constant<row.type> type{};
-    static constexpr Presence presence = row.presence;
-    static constexpr ConditionId condition = row.condition;
-    static constexpr uint8_t presenceBit = row.presenceBit;
-    static constexpr uint16_t recordOffset = row.recordOffset;
+// A row of the catalogue's slots or members whose type is a constant. All else of it is one as well
+// wherever it is inlined.
+template <auto rows, unsigned index>
+using Row = std::remove_cvref_t<decltype((catalogue.*rows)[index])>;
+
+template <auto rows, unsigned index>
+struct Fixed : Row<rows, index> {
+    static constexpr Constant<(catalogue.*rows)[index].type> type{};
+    constexpr Fixed() : Row<rows, index>((catalogue.*rows)[index]) {}
 };
 
-template <unsigned first, size_t... index, class Visit>
-TARN_INLINE bool visit_fixed(Indices<index...>, [[maybe_unused]] Visit &visit) {
-    return (visit(FixedSlot<first + index>()) && ...);
+template <auto rows, unsigned first, size_t... index, class Visit>
+TARN_INLINE bool visit_fixed(Indices<index...>, [[maybe_unused]] Visit visit) {
+    return (visit(Fixed<rows, first + index>()) && ...);
 }
 
 // Calls `visit` with each slot of the owner but the first `skipped`, as long as it returns true.
@@ -131,7 +131,8 @@ template <unsigned skipped, class Owner, class Visit>
 TARN_INLINE bool each_slot_behind(const Owner &owner, Visit visit) {
     if constexpr (isConstant<Owner>) {
         constexpr const SlotTable &table = slots_of(Owner::value);
-        return visit_fixed<table.first + skipped>(IndicesBelow<table.count - skipped>(), visit);
+        return visit_fixed<&Catalogue::slots, table.first + skipped>(
+            IndicesBelow<table.count - skipped>(), visit);
     } else {
         const SlotTable &table = slots_of(owner);
         const Slot *const end = slots_end(table);
@@ -147,24 +148,12 @@ TARN_INLINE bool each_slot(const Owner &owner, Visit visit) {
     return each_slot_behind<0>(owner, visit);
 }
 
-// A member of a record whose fields are constants.
-template <unsigned index>
-struct FixedMember {
-    static constexpr Constant<catalogue.members[index].type> type{};
-    static constexpr uint16_t offset = catalogue.members[index].offset;
-};
-
-template <unsigned first, size_t... index, class Visit>
-TARN_INLINE bool visit_fixed_members(Indices<index...>, [[maybe_unused]] Visit visit) {
-    return (visit(FixedMember<first + index>()) && ...);
-}
-
 // Calls `visit` with each member of the record as long as it returns true.
 template <class Id, class Visit>
 TARN_INLINE bool each_member(Id record, [[maybe_unused]] Visit visit) {
     if constexpr (isConstant<Id>) {
         constexpr SlotTable table = type_of(Id::value).slots;
-        return visit_fixed_members<table.first>(IndicesBelow<table.count>(), visit);
+        return visit_fixed<&Catalogue::members, table.first>(IndicesBelow<table.count>(), visit);
     } else {
         for (const Member &member : members_of(type_of(record)))
             visit(member); // only filling comes here, which nothing stops

@@ -136,10 +136,4 @@ uint32_t peek_message_id(const uint8_t *buffer, uint32_t length) {
     return isThere ? buffer[headerSize] : 0;
 }
 
-uint32_t peek_message_id_checked(const uint8_t *buffer, uint32_t length) {
-    if (any_null(TARN_CALLER(moduleInternal), buffer))
-        return 0;
-    return peek_message_id(buffer, length);
-}
-
 } // namespace tarn

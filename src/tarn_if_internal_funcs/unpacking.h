@@ -23,7 +23,6 @@ TarnMsg *unpack_msg_checked(const uint8_t *buffer, uint32_t length, MessageNumbe
 
 // Returns the id in the MessageId IE that the bytes begin with, or 0.
 uint32_t peek_message_id(const uint8_t *buffer, uint32_t length);
-uint32_t peek_message_id_checked(const uint8_t *buffer, uint32_t length);
 
 } // namespace tarn
 

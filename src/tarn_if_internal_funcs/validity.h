@@ -17,8 +17,8 @@ bool conditions_are_met(const SlotTable &table, const VelDllHead *list, unsigned
 // Whether the object has this type's tag and a valid value or valid children.
 bool ie_is_valid(const TarnIe *ie, TypeId id);
 
-// The operations of the public interface. A missing composite answers 0 without a report, so that
-// the result of a failed Extract can be passed on as it is.
+// The same as operations of the public interface. A missing composite answers 0 without a report,
+// so that the result of a failed Extract can be passed on as it is.
 uint32_t primitive_ie_is_valid(const TarnIe *ie, TypeId id);
 uint32_t composite_ie_is_valid(const TarnIe *ie, TypeId id);
 

@@ -185,12 +185,10 @@ Catalogue read_catalogue() {
 
 std::vector<uint32_t> presence_bits(const std::vector<Slot> &slots) {
     std::vector<uint32_t> bits;
-    uint32_t next = 0x80;
+    unsigned before = 0;
     for (const Slot &slot : slots) {
-        const bool marked = slot.presence != Presence::mandatory;
-        bits.push_back(marked ? next : 0);
-        if (marked)
-            next >>= 1;
+        bits.push_back(tarn::presence_bit(slot.presence, before));
+        before += slot.presence != Presence::mandatory;
     }
     return bits;
 }

@@ -7,7 +7,12 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/descriptors.h"
+
 namespace header_writer {
+
+using tarn::Presence;
+using tarn::UnpackRule;
 
 enum class Shape { scalar, bytes, record, list };
 
@@ -28,8 +33,6 @@ struct Primitive {
     std::vector<std::string> members; // record: its members; list: its one item type
 };
 
-enum class Presence { mandatory, optional, conditional, repeated };
-
 struct Slot {
     std::string child;  // the IE's name
     std::string member; // its name in the owner's record
@@ -38,9 +41,6 @@ struct Slot {
     bool composite;
     bool second; // another slot of the same child stands before it
 };
-
-// What an unpacker does with a conditional child, as the rows say it.
-enum class UnpackRule { none, refuseUncalled, dropUncalled, dropUncalledRequireAtEnd };
 
 struct Composite {
     std::string name;
