@@ -4,8 +4,8 @@
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
-// Built for size, the engine reads the catalogue's rows as it goes. Built for speed, each message
-// and composite has walks of its own, and bytes that are plainly good take a short way (plain.h).
+// Built for size, the engine reads the catalogue's rows at run time. Built for speed, each message
+// and composite has its own walks, and bytes that are plainly good take a short cut (plain.h).
 #if !defined(__OPTIMIZE_SIZE__) && !defined(TARN_COMPACT)
 #define TARN_BUILT_FOR_SPEED
 inline constexpr bool builtForSpeed = true;
@@ -13,8 +13,9 @@ inline constexpr bool builtForSpeed = true;
 inline constexpr bool builtForSpeed = false;
 #endif
 
-// Left to itself, the compiler does not inline all that a walk is made of. A lambda takes the
-// attribute behind its parameters. TARN_SHARED is inlined only where a walk is one owner's alone.
+// A walk is fast only if all its parts are inlined, which the compiler would not do by itself. On a
+// lambda the attribute follows the parameters. TARN_SHARED marks what is inlined only in walks that
+// belong to a single owner.
 #ifdef TARN_BUILT_FOR_SPEED
 #define TARN_INLINE        [[gnu::always_inline]] inline
 #define TARN_INLINE_LAMBDA __attribute__((always_inline))

@@ -1,7 +1,7 @@
 // Append and extract: putting IEs into a message or a composite, and taking them out in order.
 //
-// Everything is static: the doors of the messages and those of the composites each have their own,
-// with what their owners are and, built for speed, the type as constants.
+// All of it is static: the messages' doors and the composites' doors each have functions of their
+// own, with the kind of owner fixed and, built for speed, the type as well.
 #ifndef TARN_MEMBERS_H
 #define TARN_MEMBERS_H
 

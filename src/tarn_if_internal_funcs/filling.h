@@ -1,8 +1,8 @@
 // Filling: values from bytes that were judged good. Nothing is checked here and nothing can fail.
 //
-// What a type refuses at a place it refuses there whoever tries. So among the bytes that a judge
-// took, every IE that stands where a slot of its tag is tried belongs to that slot, and all that
-// was left out lies behind them. A value's length may still declare more than its parts take.
+// Whether a type accepts the bytes at a place does not depend on which slot asks. So within what
+// the judge accepted, an IE whose tag matches the slot being tried belongs to that slot, and
+// whatever was left out lies behind. A value's length may still declare more than its parts use.
 #ifndef TARN_FILLING_H
 #define TARN_FILLING_H
 

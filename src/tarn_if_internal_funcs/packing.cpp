@@ -77,8 +77,8 @@ bool write_in_any_order(const SlotTable &table, const VelDllHead *list, const Ta
     return true;
 }
 
-// Writes those IEs, from *ie on, that stand in the order of constant slots, each at most once, and
-// moves *ie to the first that does not. They need no search for their slots.
+// Writes the IEs from *ie on for as long as they follow the order of the owner's slots, and leaves
+// *ie at the first that does not. None of them has to be looked up. Only for a constant owner.
 template <class Owner>
 TARN_INLINE bool write_in_order(const Owner &owner, const VelDllHead *list, const TarnIe **ie,
                                 Caller caller, Output *out) {
@@ -130,7 +130,8 @@ TARN_INLINE bool write_children(Id id, const VelDllHead *children, Output *out) 
         [&](auto list) TARN_INLINE_LAMBDA { return write_elements(list, children, out); });
 }
 
-// What stands in another order, is too long to be written aside, does not fit or cannot be packed.
+// Packs what the short cut could not: IEs in another order, too many bytes for its buffer, no room,
+// or an IE that cannot be packed.
 [[gnu::noinline]] uint32_t pack_measured(const TarnMsg *msg, uint8_t *buffer, uint32_t size,
                                          const SlotTable &table) {
     if (ies_size(&msg->ies, TARN_CALLER(moduleApi)) > size) {

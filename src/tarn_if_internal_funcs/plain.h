@@ -1,6 +1,6 @@
-// The short way of judging: recognises bytes that are as nearly all are, each IE in its order,
-// whole, in range and with the length that it takes. Whatever is not plainly so goes the long way
-// through judging.h, which has the rules. Part of an engine built for speed alone.
+// A short cut for judging: it recognises bytes of the usual form, where every IE is in order,
+// whole, in range and exactly as long as its length field says. Anything else takes the long way
+// through judging.h, which has the rules. Only an engine built for speed has this.
 #ifndef TARN_PLAIN_H
 #define TARN_PLAIN_H
 
@@ -155,8 +155,8 @@ TARN_INLINE const uint8_t *plain_run(const uint8_t *at, const uint8_t *end) {
     return visit_fixed<&Catalogue::slots, first>(IndicesBelow<run.slots>(), visit) ? at : nullptr;
 }
 
-// From the first IE on. An optional child that is not there is passed over; one that is cut off is
-// not there either, since nothing behind it is taken.
+// `at` is the first IE. An absent optional child is skipped. One that is cut off counts as absent,
+// since nothing can follow it.
 template <class Owner>
 TARN_INLINE const uint8_t *plain_slots(Owner owner, const uint8_t *at, const uint8_t *end) {
     constexpr Run run = leading_run(slots_of(Owner::value));

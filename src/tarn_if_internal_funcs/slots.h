@@ -1,8 +1,8 @@
 // Walking the slots of a message or sequence composite, and the members of a record.
 //
-// Built for size, one walk serves all of them and reads the catalogue's rows as it goes. Built for
-// speed, the same code is compiled once more for each of them, with its id as a constant, so that
-// the compiler works out whatever the rows say.
+// Built for size, one walk serves them all and reads the catalogue's rows at run time. Built for
+// speed, the same code is compiled again for each of them with its id as a constant, and the
+// compiler evaluates everything that the rows say.
 #ifndef TARN_SLOTS_H
 #define TARN_SLOTS_H
 
@@ -14,7 +14,7 @@
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
-// The numbers below a count, as constants. Those of C++ come with a header that bare metal lacks.
+// The numbers below a count, as constants: std::index_sequence's header is missing on bare metal.
 template <size_t... index>
 struct Indices {};
 template <size_t count, size_t... index>
@@ -22,14 +22,14 @@ struct IndicesBelow : IndicesBelow<count - 1, count - 1, index...> {};
 template <size_t... index>
 struct IndicesBelow<0, index...> : Indices<index...> {};
 
-// A type or message that is named where the code is compiled. It stands wherever a plain one does.
+// A type or message known at compile time. It can be used wherever a plain one can.
 template <auto value>
 using Constant = std::integral_constant<decltype(value), value>;
 
 template <class Id>
 inline constexpr bool isConstant = !std::is_enum_v<Id> && !std::is_same_v<Id, SlotTable>;
 
-// A case of a switch by type or message: calls `use` with it as a constant. Handlers of rows.
+// Row handlers: a case of a switch over types or messages that passes `use` the constant.
 #define TARN_TYPE_CASE(name_, ...)                                                                 \
     case type##name_:                                                                              \
         return use(Constant<type##name_>());
@@ -37,7 +37,7 @@ inline constexpr bool isConstant = !std::is_enum_v<Id> && !std::is_same_v<Id, Sl
     case message##name_:                                                                           \
         return use(Constant<message##name_>());
 
-// A type or message as the engine takes it: built for speed a constant, else a plain one.
+// A type or message as the engine wants it: a constant when built for speed, else a plain one.
 template <auto value>
 inline constexpr std::conditional_t<builtForSpeed, Constant<value>, decltype(value)> asBuilt{
     Constant<value>()};
@@ -51,7 +51,7 @@ inline constexpr auto element_of(Constant<list>) {
     return Constant<type_of(list).array.item>();
 }
 
-// Calls `use` with the composite's id, built for speed as a constant.
+// Calls `use` with the composite's id, as a constant when built for speed.
 template <class Use>
 TARN_INLINE auto with_composite(TypeId id, Use use) {
     if constexpr (builtForSpeed) {
@@ -71,7 +71,7 @@ TARN_INLINE auto with_composite(Constant<id> known, Use use) {
     return use(known);
 }
 
-// Likewise with a message's id, to make a message; there is none for an id that is not in use.
+// The same for a message's id, where `use` makes a message; null for an id that is not in use.
 template <class Use>
 TARN_INLINE TarnMsg *with_message(MessageNumber id, Use use) {
     if constexpr (builtForSpeed) {
@@ -86,8 +86,8 @@ TARN_INLINE TarnMsg *with_message(MessageNumber id, Use use) {
     }
 }
 
-// Whose slots are walked: for a constant itself, else the table, so that messages and composites
-// share what walks it.
+// What a walk takes as its owner: a constant id, or else the slot table, so that messages and
+// composites share one compiled walk.
 template <auto id>
 constexpr Constant<id> owner_of(Constant<id> known) {
     return known;
@@ -97,7 +97,8 @@ const SlotTable &owner_of(Id id) {
     return slots_of(id);
 }
 
-// Calls the one that fits the type's kind, of which only that one is compiled for a constant.
+// Calls `that` if the type's kind passes the test, else `other`; for a constant id, only the one
+// that is called is compiled.
 template <bool (*holds)(Kind), class Id, class UseThat, class UseOther>
 TARN_INLINE auto by_kind(Id id, UseThat that, UseOther other) {
     if constexpr (isConstant<Id>) {
@@ -110,8 +111,8 @@ TARN_INLINE auto by_kind(Id id, UseThat that, UseOther other) {
     }
 }
 
-// A row of the catalogue's slots or members whose type is a constant. All else of it is one as well
-// wherever it is inlined.
+// A row of the catalogue's slots or members whose type is a constant. Its other fields fold into
+// constants where the walk is inlined.
 template <auto rows, unsigned index>
 using Row = std::remove_cvref_t<decltype((catalogue.*rows)[index])>;
 

@@ -30,8 +30,8 @@ TARN_INLINE const uint8_t *make_ie(Id id, VelDllHead *list, const uint8_t *at, c
             TARN_INLINE_LAMBDA { return make_composite(composite, list, at, end); });
 }
 
-// Children or IEs of a message. Those of an owner that is a constant are whole; any other may be a
-// refused composite, and then they end anywhere.
+// The children of a composite or the IEs of a message. A constant owner's are complete. Any other
+// owner may be a composite that was refused, whose children can end anywhere.
 template <class Owner>
 TARN_SHARED const uint8_t *make_slots(const Owner &owner, VelDllHead *list, const uint8_t *at,
                                       const uint8_t *end) {
