@@ -78,21 +78,18 @@ bool write_in_any_order(const SlotTable &table, const VelDllHead *list, const Ta
 }
 
 // Writes the IEs from *ie on for as long as they follow the order of the owner's slots, and leaves
-// *ie at the first that does not. None of them has to be looked up. Only for a constant owner.
+// *ie at the first that does not. None of them has to be looked up.
 template <class Owner>
 TARN_INLINE bool write_in_order(const Owner &owner, const VelDllHead *list, const TarnIe **ie,
                                 Caller caller, Output *out) {
-    if constexpr (isConstant<Owner>)
-        return each_slot(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
-            if (*ie == nullptr || (*ie)->tag != slot.type) [[unlikely]]
-                return true;
-            if (!write_child(slot, *ie, out))
-                return false;
-            *ie = next_ie(list, *ie, caller);
+    return each_slot(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
+        if (*ie == nullptr || (*ie)->tag != slot.type) [[unlikely]]
             return true;
-        });
-    else
+        if (!write_child(slot, *ie, out))
+            return false;
+        *ie = next_ie(list, *ie, caller);
         return true;
+    });
 }
 
 // Writes the IEs of a list in list order, each of which must have a slot, and moves `out` behind
@@ -101,10 +98,14 @@ template <class Owner>
 TARN_SHARED bool write_slots(const Owner &owner, const VelDllHead *list, Caller caller,
                              Output *out) {
     const TarnIe *ie = first_ie(list, caller);
-    Output rest = *out; // whose address nobody else knows
-    const bool ok = write_in_order(owner, list, &ie, caller, &rest);
-    *out = rest;
-    return ok && (ie == nullptr || write_in_any_order(slots_of(owner), list, ie, caller, out));
+    if constexpr (isConstant<Owner>) {
+        Output rest = *out; // whose address nobody else knows
+        const bool ok = write_in_order(owner, list, &ie, caller, &rest);
+        *out = rest;
+        if (!ok || ie == nullptr)
+            return ok;
+    }
+    return write_in_any_order(slots_of(owner), list, ie, caller, out);
 }
 
 template <class Id>
