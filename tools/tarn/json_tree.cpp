@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t mostNodes = 1U << 20; // of one message
 constexpr std::size_t mostText = 16U << 20;
-constexpr std::size_t deepest = 64;
+constexpr std::size_t deepestNesting = 64;
 
 } // namespace
 
@@ -131,7 +131,7 @@ private:
         if (add(kind) == nullptr)
             return false;
         open_.push_back({number, 0});
-        if (open_.size() <= deepest)
+        if (open_.size() <= deepestNesting)
             return true;
         what_ = "nested deeper than any message";
         return false;
@@ -208,7 +208,7 @@ private:
     }
 
     bool value(std::size_t depth) {
-        if (at_ == end_ || depth > deepest)
+        if (at_ == end_ || depth > deepestNesting)
             return false;
         std::string_view found;
         switch (*at_) {
