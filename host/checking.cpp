@@ -24,8 +24,8 @@ constexpr unsigned char kNewFill = 0xA5;
 constexpr unsigned char kFreeFill = 0xDD;
 constexpr std::size_t kQuarantineBound = std::size_t{16} << 20;
 
-// Stands in front of the block and its first guard.
-struct Block {
+// Stands in front of the block and its first guard, which leave it as aligned as malloc does.
+struct alignas(std::max_align_t) Block {
     unsigned char *bytes;
     uint32_t size;
     bool is_free;
@@ -34,6 +34,8 @@ struct Block {
     const VelDllHead *list; // that the object is linked into
     Block *next;            // in the quarantine
 };
+
+static_assert(kGuard % alignof(Block) == 0);
 
 std::size_t taken_by(const Block &block) {
     return sizeof(Block) + block.size + 2 * kGuard;
