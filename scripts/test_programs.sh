@@ -6,4 +6,4 @@ set -euo pipefail
 build=$1 left_out=$2
 shift 2
 printf '%s\n' "${@/%/_test}" | GTEST_BRIEF=1 GTEST_FILTER="-$left_out" xargs -P "$(nproc)" -I{} \
-    ${UNDER:-} "$build/tests/{}"
+    ${UNDER:-env} "$build/tests/{}"

@@ -141,7 +141,7 @@ enum class Presence : uint8_t {
 // The bit of a slot in its owner's presence mask: 0 for a mandatory one, else by how many that are
 // not mandatory stand before it.
 inline constexpr uint8_t presence_bit(Presence presence, unsigned before) {
-    return presence == Presence::mandatory ? 0 : uint8_t(0x80U >> before);
+    return uint8_t(presence == Presence::mandatory ? 0U : 0x80U >> before);
 }
 
 // What the unpacker does with a conditional child, beyond this: one that is called for and cannot

@@ -158,14 +158,16 @@ void make_value(const Type &type, void *value, Amount amount, Random &random) {
     }
 }
 
-// A number for the IE with this tag that calls for no IE, or for as many as possible.
+// A number for the IE with this tag that calls for no IE, or for those that take most.
 std::uint32_t deciding_number(std::uint32_t tag, const std::vector<Slot> &slots, Amount amount,
                               Random &random) {
     const auto called = [&](std::uint32_t number) {
-        return std::count_if(slots.begin(), slots.end(), [&](const Slot &slot) {
-            return slot.condition != nullptr && slot.condition->tag == tag &&
-                   slot.condition->counts(number);
-        });
+        std::size_t taken = 0;
+        for (const Slot &slot : slots)
+            if (slot.condition != nullptr && slot.condition->tag == tag &&
+                slot.condition->counts(number))
+                taken += slot.type->recordSize + slot.type->ieSize;
+        return taken;
     };
     const auto fewer = [&](std::uint32_t a, std::uint32_t b) { return called(a) < called(b); };
     static constexpr std::uint32_t numbers[] = {0, 1, 2, 3, 4};
