@@ -181,4 +181,18 @@ TEST_F(MessageUnpacking, MutatedBytes) {
         }
 }
 
+// One item more than the array of a mandatory list value holds, all lengths right.
+TEST_F(MessageUnpacking, OneItemTooManyInAListValue) {
+    Random random(12);
+    const Message &message = samples::message("RabReleaseRequest");
+    Bytes bytes = samples::encode(samples::make_message(message, Amount::most, random));
+    const Bytes item(bytes.end() - 21, bytes.end()); // 6 + RabId (7) + RabReleaseCause (8)
+    bytes[bytes.size() - 64] = 84;                   // the list's length, of three until here
+    bytes.insert(bytes.end(), item.begin(), item.end());
+    const samples::Exact exact(bytes);
+    EXPECT_EQ(message.unpack(exact.data(), exact.size()), nullptr);
+    Record record(message);
+    EXPECT_EQ(message.get(exact.data(), exact.size(), record.data()), 0U);
+}
+
 } // namespace
