@@ -20,9 +20,8 @@ run_tests() { # directory, CMake arguments
         -DTARN_EXAMPLES=OFF -DTARN_TESTS=OFF "${@:2}" >/dev/null
     find "$1" -name '*.gcda' -delete # what former runs counted
     cmake --build "$1" --target tarn -- --quiet
-    LD_LIBRARY_PATH=$PWD/$1/src scripts/test_programs.sh build/release '' core/core \
-        core/jumping_host primitive_ies/primitive_ies composite_ies/composite_ies \
-        messages/messages records/records host/host
+    LD_LIBRARY_PATH=$PWD/$1/src ctest --test-dir build/release -j "$(nproc)" \
+        --output-on-failure --progress -LE files -E '^tool_|^soak|^example|^fuzz'
 }
 if [ "${1:-}" != --measure ]; then
     run_tests $build

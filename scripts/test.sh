@@ -6,10 +6,11 @@
 #
 # Stages:
 #   gcc        the tests, built by g++
-#   sanitizers the same tests on libraries built with AddressSanitizer and UndefinedBehaviorSanitizer,
-#              in both forms of the engine
+#   sanitizers the same tests with AddressSanitizer and UndefinedBehaviorSanitizer in the libraries,
+#              the engine in its compact form
 #   format     clang-format
 #   coverage   every line and branch of the library
+#   speed      the same tests with AddressSanitizer in the form built for speed
 #   tidy       clang-tidy
 #   threads    many threads at once under ThreadSanitizer
 #   fuzz       the fuzz targets of the codec, built by clang, for a short time
@@ -21,13 +22,14 @@
 #   bare       the static library for bare metal, and what a program takes of it
 #   packages   the Debian packages, judged by lintian
 #   reproducible  two builds in different places, bit by bit
-#   wireshark  Wireshark's plugin against the tool
+#   wireshark  Wireshark's plugin against the tool, and the tool's captures and output in the programs
+#              that read them
 #   soak       library and host under load for some seconds
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 quick=(gcc sanitizers format)
-all=(gcc sanitizers format coverage tidy threads fuzz armhf s390x abi python
+all=(gcc sanitizers format speed coverage tidy threads fuzz armhf s390x abi python
     install bare packages reproducible wireshark soak)
 
 # The groups of scripts/packages.sh that a stage needs; `test` where none is named.
@@ -39,11 +41,12 @@ declare -A needs=([format]=format [tidy]=tidy [threads]="test clang" [fuzz]="tes
 run_preset() {
     cmake --preset "$1" >/dev/null
     cmake --build --preset "$1" -- --quiet
-    ctest --preset "$1" -j "$(nproc)" --progress
+    ctest --preset "$1" -j "$(nproc)" --progress -LE others_programs
 }
 
 stage_gcc() { run_preset release; }
-stage_sanitizers() { scripts/sanitizers.sh; }
+stage_sanitizers() { scripts/sanitizers.sh compact; }
+stage_speed() { scripts/sanitizers.sh speed; }
 stage_format() {
     git ls-files -z '*.cpp' '*.c' '*.h' | grep -zv '^include/' |
         xargs -0 clang-format --dry-run --Werror
@@ -71,7 +74,10 @@ stage_bare() { scripts/bare_metal.sh; }
 # Unoptimised: what is packed and how is the question, and the optimised programs are checked elsewhere.
 stage_packages() { DEB_BUILD_OPTIONS=noopt scripts/debian.sh; }
 stage_reproducible() { scripts/reproducible.sh; }
-stage_wireshark() { scripts/wireshark.sh; }
+stage_wireshark() {
+    scripts/wireshark.sh
+    ctest --preset release --progress -L others_programs
+}
 stage_soak() { scripts/soak.sh 0.2; }
 
 usage() { # exit status
