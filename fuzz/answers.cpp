@@ -512,8 +512,9 @@ Nodes any_nodes(const Message &type) {
 const Message &any_message() {
     static const std::vector<const Message *> conditional = [] {
         std::vector<const Message *> found;
-        std::ranges::copy_if(protocol::messages(), std::back_inserter(found),
-                             [](const Message *type) { return samples::has_conditional(*type); });
+        std::ranges::copy_if(
+            protocol::messages(), std::back_inserter(found),
+            [](const Message *type) { return samples::has_conditional(type->slots); });
         return found;
     }();
     return *any_of(once_in(5) ? conditional : protocol::messages());
