@@ -1,11 +1,23 @@
 // The exported operations of the messages: each is one call of the engine with its message or type.
 #include "tarn_if.h"
 #include "tarn_if_api/members.h"
-#include "tarn_if_api/messages.h"
 #include "tarn_if_api/records.h"
 #include "tarn_if_internal_funcs/packing.h"
+#include "tarn_if_internal_funcs/validity.h"
 
 using namespace tarn;
+
+namespace {
+
+// Returns a new message that holds its MessageId IE.
+template <class Id>
+TARN_SHARED TarnMsg *new_msg(Id id) {
+    TarnMsg *msg = create_msg(id, TARN_CALLER(moduleApi));
+    link_message_id(msg, id);
+    return msg;
+}
+
+} // namespace
 
 #define PRIMITIVE_EXTRACT_DOOR(owner_, child_)                                                     \
     uint32_t TarnExtract##child_##From##owner_##Msg(TarnMsg *msg, Tarn##child_ *value) {           \
@@ -17,7 +29,7 @@ using namespace tarn;
         return new_msg(asBuilt<message##name_>);                                                   \
     }                                                                                              \
     uint32_t TarnIs##name_##MsgValid(const TarnMsg *msg) {                                         \
-        return msg_is_valid(msg, message##name_);                                                  \
+        return is_valid_checked(msg, message##name_);                                              \
     }                                                                                              \
     uint32_t TarnPack##name_##Msg(const TarnMsg *msg, uint8_t *buffer, uint32_t size) {            \
         return pack_msg(msg, buffer, size, asBuilt<message##name_>);                               \

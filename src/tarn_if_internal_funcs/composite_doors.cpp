@@ -16,7 +16,7 @@ using namespace tarn;
         return unpack_composite_ie(head_of(ie), buffer, available, consumed, type##name_);         \
     }                                                                                              \
     uint32_t TarnIs##name_##IeValid(const TarnMsg *, const Tarn##name_##Ie *ie) {                  \
-        return composite_ie_is_valid(head_of(ie), type##name_);                                    \
+        return is_valid_checked(head_of(ie), type##name_);                                         \
     }
 
 #define SEQUENCE(name_, ...)       CODEC_DOORS(name_)

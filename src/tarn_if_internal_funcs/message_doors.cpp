@@ -8,7 +8,7 @@ using namespace tarn;
 
 #define MESSAGE(name_, ...)                                                                        \
     TarnMsg *TarnUnpack##name_##Msg(const uint8_t *buffer, uint32_t length) {                      \
-        return unpack_msg_checked(buffer, length, message##name_);                                 \
+        return unpack_msg(buffer, length, message##name_);                                         \
     }                                                                                              \
     uint32_t TarnAppendMessageIdTo##name_##Msg(TarnMsg *msg, TarnMessageId value) {                \
         return append_message_id(msg, value);                                                      \

@@ -20,7 +20,7 @@ using namespace tarn;
         return unpack_value(value, length, buffer, available, consumed, type##name_);              \
     }                                                                                              \
     uint32_t TarnIs##name_##Valid(const Tarn##name_ *value) {                                      \
-        return value_is_valid_checked(value, type##name_);                                         \
+        return is_valid_checked(value, type##name_);                                               \
     }
 
 #define IE_DOORS(name_)                                                                            \
@@ -34,7 +34,7 @@ using namespace tarn;
         return unpack_primitive_ie(head_of(ie), buffer, available, consumed, type##name_);         \
     }                                                                                              \
     uint32_t TarnIs##name_##IeValid(const void *, const Tarn##name_##Ie *ie) {                     \
-        return primitive_ie_is_valid(head_of(ie), type##name_);                                    \
+        return is_valid_checked(head_of(ie), type##name_);                                         \
     }
 
 #define SCALAR(name_, ...)      IE_DOORS(name_)

@@ -43,10 +43,4 @@ uint32_t unpack_value(void *value, uint32_t length, const uint8_t *buffer, uint3
     return ok;
 }
 
-uint32_t value_is_valid_checked(const void *value, TypeId id) {
-    if (any_null(TARN_CALLER(moduleInternal), value))
-        return 0;
-    return value_is_valid(id, value);
-}
-
 } // namespace tarn

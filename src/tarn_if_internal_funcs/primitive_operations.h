@@ -11,7 +11,6 @@ uint32_t pack_value(const void *value, uint8_t *buffer, uint32_t available, uint
                     TypeId id);
 uint32_t unpack_value(void *value, uint32_t length, const uint8_t *buffer, uint32_t available,
                       uint32_t *consumed, TypeId id);
-uint32_t value_is_valid_checked(const void *value, TypeId id);
 
 } // namespace tarn
 

@@ -123,7 +123,7 @@ TarnMsg *unpack_msg_of_any_type(const uint8_t *buffer, uint32_t length) {
     });
 }
 
-TarnMsg *unpack_msg_checked(const uint8_t *buffer, uint32_t length, MessageNumber id) {
+TarnMsg *unpack_msg(const uint8_t *buffer, uint32_t length, MessageNumber id) {
     if (any_null(TARN_CALLER(moduleInternal), buffer))
         return nullptr;
     return with_message(id, [&](auto known)

@@ -19,7 +19,7 @@ uint32_t unpack_composite_ie(TarnIe *ie, const uint8_t *buffer, uint32_t availab
 // last IE that the type knows are ignored. The id of the type asked for is taken from the call: the
 // value of the MessageId IE is not compared with it.
 TarnMsg *unpack_msg_of_any_type(const uint8_t *buffer, uint32_t length);
-TarnMsg *unpack_msg_checked(const uint8_t *buffer, uint32_t length, MessageNumber id);
+TarnMsg *unpack_msg(const uint8_t *buffer, uint32_t length, MessageNumber id);
 
 // Returns the id in the MessageId IE that the bytes begin with, or 0.
 uint32_t peek_message_id(const uint8_t *buffer, uint32_t length);

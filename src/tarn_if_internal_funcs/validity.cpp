@@ -9,11 +9,14 @@ namespace tarn {
 
 namespace {
 
-bool elements_are_valid(const Type &list, const VelDllHead *children) {
+// Whether the object has this type's tag and a valid value or valid children.
+bool is_valid(const TarnIe *ie, TypeId id);
+
+bool is_valid(const Type &list, const VelDllHead *children) {
     uint32_t count = 0;
     for (const TarnIe *ie = first_ie(children, TARN_CALLER(moduleInternal)); ie != nullptr;
          ie = next_ie(children, ie, TARN_CALLER(moduleInternal))) {
-        if (!ie_is_valid(ie, list.array.item))
+        if (!is_valid(ie, list.array.item))
             return false;
         ++count;
     }
@@ -37,7 +40,7 @@ bool note_optional(const SlotTable &table, const TarnIe *ie, uint32_t position, 
     const Slot *slot = optional_slot(table, ie->tag);
     if (slot == nullptr)
         return position >= table.count;
-    if (is_conditional(*slot) && (*present & slot->presenceBit) == 0 && ie_is_valid(ie, slot->type))
+    if (is_conditional(*slot) && (*present & slot->presenceBit) == 0 && is_valid(ie, slot->type))
         *present |= slot->presenceBit;
     return true;
 }
@@ -46,8 +49,6 @@ bool note_optional(const SlotTable &table, const TarnIe *ie, uint32_t position, 
 bool repeats(const SlotTable &table) {
     return slots_end(table)[-1].presence == Presence::repeated;
 }
-
-} // namespace
 
 // A conditional child must be there when its condition holds, and must not when it does not.
 bool conditions_are_met(const SlotTable &table, const VelDllHead *list, unsigned present) {
@@ -64,41 +65,47 @@ bool conditions_are_met(const SlotTable &table, const VelDllHead *list, unsigned
 // ones may stand in any order and any number of times. What stands behind the last position is
 // ignored, whatever its tag: peers of a later version may add to a message. A repeated slot alone
 // is looked for to the end.
-bool slots_are_valid(const SlotTable &table, const VelDllHead *list, Caller caller) {
+bool is_valid(const SlotTable &table, const VelDllHead *list, Caller caller) {
     uint32_t position = 0;
     unsigned present = 0;
     for (const TarnIe *ie = first_ie(list, caller); ie != nullptr;
          ie = next_ie(list, ie, caller), ++position) {
         if (position >= table.count && !repeats(table))
             break;
-        const bool ok = position < table.mandatory
-                            ? ie_is_valid(ie, slots_begin(table)[position].type)
-                            : note_optional(table, ie, position, &present);
+        const bool ok = position < table.mandatory ? is_valid(ie, slots_begin(table)[position].type)
+                                                   : note_optional(table, ie, position, &present);
         if (!ok)
             return false;
     }
     return position >= table.mandatory && conditions_are_met(table, list, present);
 }
 
-bool ie_is_valid(const TarnIe *ie, TypeId id) {
+bool is_valid(const TarnIe *ie, TypeId id) {
     if (ie->tag != id)
         return false;
     const Type &type = type_of(id);
     if (type.kind == Kind::sequence)
-        return slots_are_valid(type.slots, children_of(ie), TARN_CALLER(moduleInternal));
+        return is_valid(type.slots, children_of(ie), TARN_CALLER(moduleInternal));
     if (type.kind == Kind::compositeList)
-        return elements_are_valid(type, children_of(ie));
-    return value_is_valid(id, value_of(ie));
+        return is_valid(type, children_of(ie));
+    return is_valid(id, value_of(ie));
 }
 
-uint32_t primitive_ie_is_valid(const TarnIe *ie, TypeId id) {
-    if (any_null(TARN_CALLER(moduleInternal), ie))
+} // namespace
+
+uint32_t is_valid_checked(const void *value, TypeId id) {
+    return any_null(TARN_CALLER(moduleInternal), value) ? 0 : is_valid(id, value);
+}
+
+uint32_t is_valid_checked(const TarnIe *ie, TypeId id) {
+    if (is_primitive(type_of(id).kind) && any_null(TARN_CALLER(moduleInternal), ie))
         return 0;
-    return ie_is_valid(ie, id);
+    return ie != nullptr && is_valid(ie, id);
 }
 
-uint32_t composite_ie_is_valid(const TarnIe *ie, TypeId id) {
-    return ie != nullptr && ie_is_valid(ie, id);
+uint32_t is_valid_checked(const TarnMsg *msg, MessageNumber id) {
+    return msg != nullptr && msg->messageId == id &&
+           is_valid(slots_of(id), &msg->ies, TARN_CALLER(moduleApi));
 }
 
 } // namespace tarn

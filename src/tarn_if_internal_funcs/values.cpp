@@ -36,41 +36,30 @@ uint32_t value_size(TypeId id, const void *value) {
 
 // ---- Validity ----------------------------------------------------------------------------------
 
-namespace {
-
-bool record_is_valid(const Type &type, const void *value) {
-    for (const Member &member : members_of(type))
-        if (!value_is_valid(member.type, at_offset(value, member.offset)))
-            return false;
-    return true;
-}
-
-bool list_is_valid(const Type &type, const void *value) {
-    const uint32_t count = stored_count(value);
-    if (!in_range(type, count))
-        return false;
-    for (uint32_t i = 0; i < count; ++i)
-        if (!value_is_valid(type.array.item, item_of(type, value, i)))
-            return false;
-    return true;
-}
-
-} // namespace
-
-bool value_is_valid(TypeId id, const void *value) {
+bool is_valid(TypeId id, const void *value) {
     const Type &type = type_of(id);
     if (type.acceptsAll != 0)
         return true;
     if (is_number(type.kind))
         return in_range(type, load_number(type.kind, value));
-    if (type.kind == Kind::bytes)
-        return in_range(type, stored_count(value));
-    return type.kind == Kind::record ? record_is_valid(type, value) : list_is_valid(type, value);
+    if (type.kind == Kind::record) {
+        for (const Member &member : members_of(type))
+            if (!is_valid(member.type, at_offset(value, member.offset)))
+                return false;
+        return true;
+    }
+    const uint32_t count = stored_count(value);
+    if (!in_range(type, count))
+        return false;
+    for (uint32_t i = 0; is_list(type.kind) && i < count; ++i)
+        if (!is_valid(type.array.item, item_of(type, value, i)))
+            return false;
+    return true;
 }
 
 #ifndef TARN_BUILT_FOR_SPEED
 uint32_t measure_any(TypeId id, const void *value) {
-    return value_is_valid(id, value) ? headerSize + value_size(id, value) : 0;
+    return is_valid(id, value) ? headerSize + value_size(id, value) : 0;
 }
 #endif
 

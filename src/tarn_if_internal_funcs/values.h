@@ -17,7 +17,7 @@ namespace [[gnu::visibility("hidden")]] tarn {
 uint32_t value_size(TypeId id, const void *value);
 
 // Whether the value lies in its type's range; for a record and a list, with all that it holds.
-bool value_is_valid(TypeId id, const void *value);
+bool is_valid(TypeId id, const void *value);
 
 // Writes the value, or the whole IE. What does not fit or goes beyond an array fails, and `out`
 // then stands behind what came before: a record's or list's last whole part, or the header.
