@@ -49,23 +49,10 @@ inline Ie *add(VelDllHead *list, uint16_t tag) {
     return ie;
 }
 
-// Large values are copied by the C library, which knows the processor, and not by instructions
-// that the compiler chose for any processor.
-template <class Value>
-inline void copy(Value *to, const Value *from) {
-    if constexpr (sizeof(Value) <= 128) {
-        *to = *from;
-    } else {
-        size_t size = sizeof(Value);
-        asm("" : "+r"(size)); // keeps the size, and with it the call, from being folded
-        memcpy(to, from, size);
-    }
-}
-
 template <class Ie, class Value>
 inline void append(VelDllHead *list, uint16_t tag, const Value &value) {
     Ie *ie = create_ie<Ie>(tag);
-    copy(&ie->value, &value);
+    ie->value = value;
     link(list, ie);
 }
 
@@ -111,7 +98,7 @@ inline Ie *extract(const VelDllHead *list, unsigned position) {
 
 template <class Ie, class Value>
 inline void extract_value(const VelDllHead *list, unsigned position, Value *value) {
-    copy(value, &extract<Ie>(list, position)->value);
+    *value = extract<Ie>(list, position)->value;
 }
 
 // ---- Deletion ----------------------------------------------------------------------------------

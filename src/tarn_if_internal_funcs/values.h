@@ -80,18 +80,12 @@ TARN_INLINE void store_count(void *value, uint32_t count) {
     *static_cast<uint32_t *>(value) = count;
 }
 
-// Copies a whole value record, for a byte string with all of its array. Large values are copied by
-// the C library, which knows the processor, and not by what the compiler would put here for any.
+// Copies a whole value record, for a byte string with all of its array.
 TARN_INLINE void copy_value(const Type &type, void *to, const void *from) {
-    constexpr size_t smallSize = 64; // copied by a few moves
-    size_t size = type.valueSize;
-    if (is_number(type.kind)) {
+    if (is_number(type.kind))
         store_number(type.kind, to, load_number(type.kind, from));
-        return;
-    }
-    if (builtForSpeed && size > smallSize)
-        asm("" : "+r"(size)); // no constant any more
-    memcpy(to, from, size);
+    else
+        memcpy(to, from, type.valueSize);
 }
 
 } // namespace tarn
