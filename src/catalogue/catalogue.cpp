@@ -14,17 +14,23 @@ constexpr Catalogue catalogue = making::make_catalogue();
 
 namespace {
 
-// A tag given twice would overwrite a type without a word.
-constexpr bool tags_are_unique() {
-    bool seen[lastTag + 1] = {};
-    for (const int tag : making::tagRows) {
-        if (tag < 1 || tag > lastTag || seen[tag])
+constexpr int idRows[] = {
+#define MESSAGE(name_, id_, ...) id_,
+#include "catalogue/messages.def"
+};
+
+// A tag or an id given twice would overwrite a row without a word.
+template <size_t count>
+constexpr bool are_distinct(const int (&numbers)[count]) {
+    bool seen[UINT8_MAX + 1] = {};
+    for (const int number : numbers) {
+        if (number < 1 || number > UINT8_MAX || seen[number])
             return false;
-        seen[tag] = true;
+        seen[number] = true;
     }
     return true;
 }
-static_assert(tags_are_unique());
+static_assert(are_distinct(making::tagRows) && are_distinct(idRows));
 
 constexpr bool range_holds(const Type &type) {
     switch (type.kind) {
