@@ -148,7 +148,7 @@ TEST_F(MessageUnpacking, ValueOfMessageIdIsNotComparedWithTheType) {
     Random random(7);
     for (const Message *message : protocol::messages()) {
         Nodes nodes = samples::make_message(*message, Amount::least, random);
-        samples::set_number(nodes.front(), samples::unknown_id());
+        samples::set_number(nodes.front(), samples::unknown_ids().front());
         EXPECT_EQ(unpack(*message, samples::encode(nodes)), nodes) << message->name;
         const MsgPtr msg = samples::make_msg(*message, nodes);
         EXPECT_EQ(message->isValid(msg.get()), 1U) << message->name;

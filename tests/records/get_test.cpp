@@ -175,12 +175,14 @@ TEST_F(GetTest, FirstUeContextRefAlone) {
 TEST_F(GetTest, BytesThatDoNotUnpack) {
     Random random(4);
     for (const Message *message : protocol::messages()) {
-        const Nodes nodes = samples::make_message(*message, Amount::least, random);
-        Bytes bytes = samples::encode(nodes);
-        bytes.pop_back();
-        Nodes unknown = nodes;
-        samples::set_number(unknown.front(), samples::unknown_id());
-        for (const Bytes &bad : {bytes, samples::encode(unknown), Bytes(), Bytes{0x00}}) {
+        Nodes nodes = samples::make_message(*message, Amount::least, random);
+        std::vector<Bytes> refused = {samples::encode(nodes), {}, {0x00}};
+        refused.front().pop_back();
+        for (const std::uint32_t id : samples::unknown_ids()) {
+            samples::set_number(nodes.front(), id);
+            refused.push_back(samples::encode(nodes));
+        }
+        for (const Bytes &bad : refused) {
             Record record(*message, filler);
             const std::size_t before = test_host::debug_tokens().size();
             EXPECT_EQ(get(*message, bad, &record), 0U) << message->name;

@@ -48,11 +48,12 @@ std::vector<std::uint16_t> tags_without_ie() {
     return tags;
 }
 
-std::uint32_t unknown_id() {
-    std::uint32_t id = 1;
-    while (protocol::message_by_id(id) != nullptr)
-        ++id;
-    return id;
+std::vector<std::uint32_t> unknown_ids() {
+    std::vector<std::uint32_t> found;
+    for (std::uint32_t id = 0; id < 256; ++id)
+        if (protocol::message_by_id(id) == nullptr)
+            found.push_back(id);
+    return found;
 }
 
 bool is_conditional(const Slot &slot) {

@@ -74,8 +74,8 @@ const protocol::Message &message(std::string_view name);
 
 // Tags that no IE has: gaps, tags that only list items carry, and what lies behind the last one.
 std::vector<std::uint16_t> tags_without_ie();
-// A message id that the protocol lacks.
-std::uint32_t unknown_id();
+// The bytes that are no message's id.
+std::vector<std::uint32_t> unknown_ids();
 
 bool is_conditional(const protocol::Slot &slot);
 bool has_conditional(const std::vector<protocol::Slot> &slots);
