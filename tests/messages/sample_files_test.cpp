@@ -1,6 +1,9 @@
 // The sample messages of examples/messages, whose bytes were worked out by hand, by both roads.
 #include "support/sample_files.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
 #include <map>
 #include <set>
 
@@ -52,9 +55,8 @@ TEST_F(SampleFiles, ComeAndGoByRecords) {
     }
 }
 
-// Which IEs stand behind each other, by owner.
+// Which IEs stand behind each other.
 using Neighbours = std::set<std::pair<const Type *, const Type *>>;
-using Seen = std::map<std::string, Neighbours>;
 
 Neighbours neighbours_among(const Nodes &nodes) {
     Neighbours found;
@@ -63,25 +65,48 @@ Neighbours neighbours_among(const Nodes &nodes) {
     return found;
 }
 
+template <class Of>
+std::size_t count_of(const Type &type, const std::vector<Of> &list) {
+    return std::size_t(std::count_if(list.begin(), list.end(),
+                                     [&type](const Of &one) { return one.type == &type; }));
+}
+
+// The IEs of every message and composite in the samples, by owner.
+using Seen = std::map<std::string, std::vector<Nodes>>;
+
 void note(const char *owner, const Nodes &nodes, Seen *seen) {
-    (*seen)[owner].merge(neighbours_among(nodes));
+    (*seen)[owner].push_back(nodes);
     for (const Node &node : nodes)
         note(node.type->name, node.children, seen);
 }
 
-// All IEs that can stand behind each other do so in a sample. So which IEs there are, and in which
-// order, is held by bytes that were not made from the rows.
+// All IEs that can stand behind each other do so in a sample, and whatever may be left out is left
+// out in one. So which IEs there are, in which order, and which must be there, is held by bytes
+// that were not made from the rows.
 TEST_F(SampleFiles, HoldEverySlotInItsPlace) {
     Seen seen;
     for (const samples::Sample &sample : samples::read(""))
         note(type_of(sample.bytes).name, decode(sample.bytes), &seen);
     Random random(1);
     const auto check = [&](const char *owner, const std::vector<Slot> &slots) {
+        Neighbours held;
+        for (const Nodes &nodes : seen[owner])
+            held.merge(neighbours_among(nodes));
         for (std::uint32_t deciding = 0; deciding < 4; ++deciding)
             for (const auto &[first, second] :
                  neighbours_among(samples::make_nodes(slots, Amount::slim, random, deciding)))
-                EXPECT_EQ(seen[owner].count({first, second}), 1U)
+                EXPECT_EQ(held.count({first, second}), 1U)
                     << owner << ": no sample has " << first->name << " and " << second->name;
+        std::vector<Slot> mandatory;
+        std::copy_if(slots.begin(), slots.end(), std::back_inserter(mandatory),
+                     [](const Slot &slot) { return slot.presence == Presence::mandatory; });
+        for (const Slot &slot : slots) {
+            std::size_t least = SIZE_MAX;
+            for (const Nodes &nodes : seen[owner])
+                least = std::min(least, count_of(*slot.type, nodes));
+            EXPECT_EQ(least, count_of(*slot.type, mandatory))
+                << owner << ": all samples have " << slot.name << ", which may be left out";
+        }
     };
     for (const Message *message : protocol::messages())
         check(message->name, message->slots);
