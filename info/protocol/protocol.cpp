@@ -46,11 +46,10 @@ private:
     }
 
     static void add_slot(std::vector<Slot> &slots, Slot slot) {
-        unsigned bit = 0x80;
+        unsigned before = 0;
         for (const Slot &former : slots)
-            if (former.presence != Presence::mandatory)
-                bit >>= 1;
-        slot.presenceBit = std::uint8_t(slot.presence == Presence::mandatory ? 0 : bit);
+            before += former.presence != Presence::mandatory;
+        slot.presenceBit = tarn::presence_bit(slot.presence, before);
         slots.push_back(slot);
     }
 

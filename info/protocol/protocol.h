@@ -12,16 +12,14 @@
 #include <string_view>
 #include <vector>
 
+#include "catalogue/descriptors.h"
 #include "tarn_if.h"
 
 namespace protocol {
 
 enum class Shape { scalar, bytes, record, list, sequence, compositeList };
 
-enum class Presence { mandatory, optional, conditional, repeated };
-
-// What an owner does with a conditional child, see UnpackRule in the catalogue.
-enum class UnpackRule { none, refuseUncalled, dropUncalled, dropUncalledRequireAtEnd };
+using tarn::Presence, tarn::UnpackRule;
 
 struct Type;
 struct Condition;
