@@ -4,11 +4,27 @@ namespace tarn {
 
 namespace {
 
-// Always takes the current head, so that a released IE is never needed to find the next one.
-void delete_all(VelDllHead *list) {
-    while (TarnIe *ie = first_ie(list, TARN_CALLER(moduleApi))) {
-        xVelDllRemoveNode(list, &ie->node, moduleApi, __LINE__);
-        delete_ie(ie);
+// Releases the IEs of the list, always the current head, so that a released one is never needed to
+// find the next. A composite comes after its children: until then the list that it stood in is kept
+// in the place of its mark, so that nesting takes no stack however deep it is.
+TARN_INLINE void delete_all(VelDllHead *const all) {
+    VelDllHead *list = all;
+    for (;;) {
+        TarnIe *ie = first_ie(list, TARN_CALLER(moduleApi));
+        if (ie != nullptr) {
+            xVelDllRemoveNode(list, &ie->node, moduleApi, __LINE__);
+            if (is_composite_tag(ie->tag)) {
+                memcpy(at_offset(ie, markOffset), &list, sizeof list);
+                list = children_of(ie);
+                continue;
+            }
+        } else {
+            if (list == all)
+                return;
+            ie = reinterpret_cast<TarnIe *>(list) - 1;
+            memcpy(&list, at_offset(ie, markOffset), sizeof list);
+        }
+        release(ie, TARN_CALLER(moduleApi));
     }
 }
 

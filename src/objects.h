@@ -2,6 +2,8 @@
 #ifndef TARN_OBJECTS_H
 #define TARN_OBJECTS_H
 
+#include <string.h>
+
 #include "catalogue/catalogue.h"
 #include "platform_calls.h"
 
@@ -21,13 +23,23 @@ inline const VelDllHead *children_of(const TarnIe *ie) {
     return static_cast<const VelDllHead *>(value_of(ie));
 }
 
+// What follows the linkage in the head of an IE object. Its gap is filled to set all of it by one
+// store, and means nothing: hosts and callers may make objects of their own.
+struct Mark {
+    uint16_t tag;
+    uint16_t gap = 0;
+    uint32_t extractHistory = 0;
+};
+inline constexpr size_t markOffset = offsetof(TarnIe, tag);
+static_assert(markOffset + sizeof(Mark) == sizeof(TarnIe) && sizeof(void *) <= sizeof(Mark));
+
 // Returns a new IE object: unlinked, not yet extracted, with its value or children still to be set.
 TARN_INLINE TarnIe *create_head(TypeId id, Caller caller) {
     auto *ie =
         static_cast<TarnIe *>(allocate(uint32_t(sizeof(TarnIe)) + type_of(id).valueSize, caller));
     xVelDllInitNode(&ie->node, caller.module, caller.line);
-    ie->tag = id;
-    ie->extractHistory = 0;
+    const Mark mark{id};
+    memcpy(at_offset(ie, markOffset), &mark, sizeof mark);
     return ie;
 }
 

@@ -294,9 +294,28 @@ inline void *item_of(const Type &list, void *owner, uint32_t index) {
     return at_offset(owner, list.array.offset + index * list.array.stride);
 }
 
+#ifdef TARN_BUILT_FOR_SPEED
+// By a tag's low byte: the composite tag that has it, or else a number that has not.
+struct CompositeTags {
+    uint16_t with[256];
+};
+inline constexpr CompositeTags compositeTags = [] {
+    CompositeTags tags{};
+    for (unsigned byte = 0; byte < 256; ++byte)
+        tags.with[byte] =
+            uint16_t(byte <= lastTag && is_composite(type_of(TypeId(byte)).kind) ? byte : ~byte);
+    return tags;
+}();
+static_assert(lastTag < 256);
+#endif
+
 // Whether an IE of this tag has children. A tag that the protocol lacks has none.
 inline constexpr bool is_composite_tag(uint32_t tag) {
+#ifdef TARN_BUILT_FOR_SPEED
+    return compositeTags.with[tag & 0xFF] == tag;
+#else
     return tag <= lastTag && is_composite(type_of(TypeId(tag)).kind);
+#endif
 }
 
 } // namespace tarn

@@ -38,9 +38,5 @@ uint32_t TarnUnpackNewMsg(const uint8_t *buffer, uint32_t length, TarnMsg **msg)
     const bool missing = any_null(TARN_CALLER(moduleApi), msg, buffer);
     if (msg != nullptr)
         *msg = nullptr;
-    if (missing)
-        return 0;
-    TarnMsg *unpacked = unpack_msg_of_any_type(buffer, length);
-    *msg = unpacked;
-    return unpacked != nullptr;
+    return missing ? 0 : unpack_msg_of_any_type(buffer, length, msg);
 }

@@ -71,18 +71,18 @@ TARN_INLINE auto with_composite(Constant<id> known, Use use) {
     return use(known);
 }
 
-// The same for a message's id, where `use` makes a message; null for an id that is not in use.
+// The same for a message's id, where `use` makes a message; 0 for an id that is not in use.
 template <class Use>
-TARN_INLINE TarnMsg *with_message(MessageNumber id, Use use) {
+TARN_INLINE uint32_t with_message(MessageNumber id, Use use) {
     if constexpr (builtForSpeed) {
         switch (id) {
 #define MESSAGE TARN_MESSAGE_CASE
 #include "catalogue/messages.def"
         default:
-            return nullptr;
+            return 0;
         }
     } else {
-        return catalogue.messages[id].slots.count != 0 ? use(id) : nullptr;
+        return catalogue.messages[id].slots.count != 0 ? use(id) : 0;
     }
 }
 

@@ -71,13 +71,15 @@ const uint8_t *make_composite(Id id, VelDllHead *list, const uint8_t *at, const 
 }
 
 template <class Id>
-[[gnu::noinline]] TarnMsg *unpack_ies(Id id, const uint8_t *buffer, uint32_t length) {
+[[gnu::noinline]] uint32_t unpack_ies(Id id, const uint8_t *buffer, uint32_t length,
+                                      TarnMsg **unpacked) {
     const uint8_t *const end = end_of_msg(owner_of(id), buffer, length);
     if (end == nullptr)
-        return nullptr;
+        return 0;
     TarnMsg *msg = create_msg(id, TARN_CALLER(moduleInternal));
     make_slots(owner_of(id), &msg->ies, buffer, end);
-    return msg;
+    *unpacked = msg;
+    return 1;
 }
 
 } // namespace
@@ -114,20 +116,23 @@ uint32_t unpack_composite_ie(TarnIe *ie, const uint8_t *buffer, uint32_t availab
     return ok || available == 0;
 }
 
-TarnMsg *unpack_msg_of_any_type(const uint8_t *buffer, uint32_t length) {
-    const uint32_t id = peek_message_id(buffer, length);
+// The header in front of the id is judged with the message.
+uint32_t unpack_msg_of_any_type(const uint8_t *buffer, uint32_t length, TarnMsg **msg) {
+    const uint32_t id = length > headerSize ? buffer[headerSize] : 0;
     if (id >= messageCount)
-        return nullptr;
+        return 0;
     return with_message(MessageNumber(id), [&](auto known) TARN_INLINE_LAMBDA {
-        return unpack_ies(known, buffer, length);
+        return unpack_ies(known, buffer, length, msg);
     });
 }
 
 TarnMsg *unpack_msg(const uint8_t *buffer, uint32_t length, MessageNumber id) {
     if (any_null(TARN_CALLER(moduleInternal), buffer))
         return nullptr;
-    return with_message(id, [&](auto known)
-                                TARN_INLINE_LAMBDA { return unpack_ies(known, buffer, length); });
+    TarnMsg *msg = nullptr;
+    with_message(id, [&](auto known)
+                         TARN_INLINE_LAMBDA { return unpack_ies(known, buffer, length, &msg); });
+    return msg;
 }
 
 uint32_t peek_message_id(const uint8_t *buffer, uint32_t length) {
