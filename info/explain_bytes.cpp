@@ -138,7 +138,7 @@ private:
     }
 
     void leave_out(Reason reason, Frame *frame, Frame *owner) {
-        if (reason == Reason::conditionUnmet) // its owner ends without it
+        if (frame->found == Reason::conditionUnmet) // its owner ends without it
             return hand_up(frame, owner);
         // Where not even a tag is left, nothing stands.
         const bool stoodThere = reason != Reason::noBytes && reason != Reason::otherTag &&
