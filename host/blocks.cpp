@@ -78,7 +78,7 @@ std::atomic<Cache *> caches{nullptr};
 // The blocks of threads that have no cache.
 std::atomic<std::size_t> live_elsewhere{0};
 
-// Of initial-exec storage, which is read in one instruction even within a shared object, and small
+// In initial-exec storage, which is read in one instruction even within a shared object, and small
 // enough for the room that libc keeps for objects loaded later.
 constinit thread_local Cache *thread_cache [[gnu::tls_model("initial-exec")]] = nullptr;
 constinit thread_local bool thread_ends [[gnu::tls_model("initial-exec")]] = false;
@@ -100,7 +100,7 @@ void push(Cache &cache, void *block, std::size_t taken) {
     add(cache.kept, taken);
 }
 
-// Gives blocks back, the largest first, until so many bytes are kept.
+// Gives blocks back, the largest first, until only this many bytes are kept.
 void drain(Cache &cache, std::size_t bytes) {
     for (std::size_t shelf = kShelves; shelf-- > 0;) {
         while (cache.shelves[shelf] != nullptr) {

@@ -1,7 +1,7 @@
 // The checking mode, which TARN_HOST_CHECK=1 in the environment asks for.
 //
 // Every block is known by its address, stands between guards, and stays in quarantine for a while
-// after its release. What is wrong is told as a fatal error that names the block and the places
+// after its release. A mistake is reported as a fatal error that names the block and the places
 // that allocated and freed it. The price is a lock and a search for each call.
 #ifndef TARN_HOST_CHECKING_H
 #define TARN_HOST_CHECKING_H
@@ -35,7 +35,7 @@ struct Checked {
 Checked count_checked();
 void list_checked(FILE *stream);
 
-// Looks all free blocks over for the last time and gives them back.
+// Inspects all free blocks one last time and gives them back.
 void empty_quarantine();
 
 } // namespace tarn_host

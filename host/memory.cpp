@@ -16,7 +16,7 @@ namespace {
 std::atomic<std::size_t> held{0};
 std::atomic<std::size_t> limit{SIZE_MAX};
 
-// malloc keeps most of what is freed. Once the host holds so much less than it did at its height,
+// malloc keeps most of what is freed. Once the host holds this much less than it did at its height,
 // malloc is asked to give whole free pages back.
 constexpr std::size_t kFallBeforeTrim = std::size_t{64} << 20;
 std::atomic<std::size_t> height{0};

@@ -1,4 +1,4 @@
-// Fatal errors and debug tokens: told to the program's handlers, or to stderr.
+// Fatal errors and debug tokens: reported to the program's handlers, or to stderr.
 
 #include "support.h"
 #include "tarn_host.h"

@@ -32,8 +32,8 @@ struct Frame {
     Finding below{};            // or in a part of it
     bool isUndecodable = false; // by what was found
 
-    // Whether something is known that another finding, of this kind, does not outdo. Once an
-    // element has passed the end of its list, whatever comes behind is of no interest.
+    // Whether what is known already outweighs another finding of this kind. Once an element has
+    // passed the end of its list, nothing behind it is of interest.
     bool is_settled(bool byUndecodable) const {
         return (found != Reason::none || below) &&
                (found == Reason::pastEnd || isUndecodable || !byUndecodable);
@@ -140,7 +140,7 @@ private:
     void leave_out(Reason reason, Frame *frame, Frame *owner) {
         if (frame->found == Reason::conditionUnmet) // its owner ends without it
             return hand_up(frame, owner);
-        // Where not even a tag is left, nothing stands.
+        // With not even a tag left, nothing stands there.
         const bool stoodThere = reason != Reason::noBytes && reason != Reason::otherTag &&
                                 length_ - frame->at >= tagSize;
         if (stoodThere)
@@ -352,7 +352,7 @@ void explain_bytes(const std::uint8_t *bytes, std::uint32_t length, Explanation 
 
 using namespace info;
 
-// What is plain needs no words.
+// A valid message needs no explanation.
 TarnInfoJudgement tarnInfoJudge(const uint8_t *bytes, uint32_t length) try {
     const TarnInfoMessage *message =
         bytes != nullptr ? message_of_id(TarnGetMessageId(bytes, length)) : nullptr;

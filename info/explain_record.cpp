@@ -12,7 +12,7 @@ namespace {
 constexpr std::uint32_t messageMask = 1;
 constexpr std::uint32_t compositeMask = 0;
 
-// From good to bad. What is short is so whatever the rules overlook: a list with too few elements.
+// From good to bad.
 enum class Built { valid, invalid, refused };
 
 class RecordWalk {
@@ -21,8 +21,9 @@ public:
 
     Built slots(const Slots &slots, std::uint32_t at, std::uint32_t mask, const std::string &path);
 
-    // The first that fails an append; of those that only the finished message does not bear, the
-    // first that counts; and one that is too short anywhere.
+    // The first value that no append takes; the first fault that makes the finished message
+    // invalid; and a list with too few elements, which refuses the record even where the rules
+    // overlook it.
     Finding refused;
     Finding invalid;
     Finding tooShort;

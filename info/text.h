@@ -22,7 +22,7 @@ public:
         used_ = 0;
     }
 
-    // Room for so many bytes, which must be far fewer than the block's; advance() to behind what
+    // Room for this many bytes, which must be far fewer than the block's; advance() to behind what
     // was written there.
     char *room(std::uint32_t count) {
         if (sizeof block_ - used_ < count)
