@@ -167,8 +167,11 @@ TARN_INLINE const uint8_t *plain_slots(Owner owner, const uint8_t *at, const uin
     each_slot_behind<run.slots>(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
         const bool isNeeded = slot.presence == Presence::mandatory ||
                               (is_conditional(slot) && condition_holds(slot.condition, numbers));
-        if (isNeeded || (size_t(end - at) >= headerSize && load16(at) == slot.type))
-            at = is_conditional(slot) && !isNeeded ? nullptr : plain_ie(slot.type, at, end);
+        const bool isTried = isNeeded || !is_conditional(slot);
+        const uint8_t *const next = isTried ? plain_ie(slot.type, at, end) : nullptr;
+        const bool isAbsent = next == nullptr && !isNeeded &&
+                              (size_t(end - at) < headerSize || load16(at) != slot.type);
+        at = isAbsent ? at : next;
         return at != nullptr;
     });
     return at;

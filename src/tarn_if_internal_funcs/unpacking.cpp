@@ -10,9 +10,25 @@ namespace {
 
 // ---- IE objects from bytes that were judged good -----------------------------------------------
 
+// Composites up to so many levels are made where they stand, and others by functions of their own,
+// whose calls cost more than a small composite does.
+constexpr unsigned levelsInPlace = 3;
+
+[[maybe_unused]] constexpr unsigned levels_of(TypeId id) {
+    const Type &type = type_of(id);
+    unsigned below =
+        is_primitive(type.kind) || is_sequence(type.kind) ? 0 : levels_of(element_of(id));
+    for (unsigned i = 0; is_sequence(type.kind) && i < type.slots.count; ++i) {
+        const unsigned levels = levels_of(catalogue.slots[type.slots.first + i].type);
+        below = levels > below ? levels : below;
+    }
+    return is_primitive(type.kind) ? 0 : 1 + below;
+}
+
 // Each makes an object of the IE that stands here, links it and returns where the next IE begins.
 template <class Id>
-const uint8_t *make_composite(Id id, VelDllHead *list, const uint8_t *at, const uint8_t *end);
+TARN_INLINE const uint8_t *make_composite(Id id, VelDllHead *list, const uint8_t *at,
+                                          const uint8_t *end);
 
 template <class Id>
 TARN_INLINE const uint8_t *make_primitive(Id id, VelDllHead *list, const uint8_t *at) {
@@ -62,12 +78,29 @@ TARN_SHARED const uint8_t *make_children(Id id, VelDllHead *list, const uint8_t 
 }
 
 template <class Id>
-const uint8_t *make_composite(Id id, VelDllHead *list, const uint8_t *at, const uint8_t *end) {
+TARN_INLINE const uint8_t *make_in_place(Id id, VelDllHead *list, const uint8_t *at,
+                                         const uint8_t *end) {
     TarnIe *ie = create_composite(id, TARN_CALLER(moduleInternal));
     const uint8_t *const first = at + headerSize;
     at = make_children(id, children_of(ie), first, first + load32(at + tagSize), end);
     link_ie(list, ie, TARN_CALLER(moduleInternal));
     return at;
+}
+
+template <class Id>
+[[gnu::noinline]] const uint8_t *make_apart(Id id, VelDllHead *list, const uint8_t *at,
+                                            const uint8_t *end) {
+    return make_in_place(id, list, at, end);
+}
+
+template <class Id>
+TARN_INLINE const uint8_t *make_composite(Id id, VelDllHead *list, const uint8_t *at,
+                                          const uint8_t *end) {
+    if constexpr (isConstant<Id>) {
+        if constexpr (levels_of(Id::value) <= levelsInPlace)
+            return make_in_place(id, list, at, end);
+    }
+    return make_apart(id, list, at, end);
 }
 
 template <class Id>
