@@ -375,7 +375,7 @@ void Session::judge() {
     if (object->is_message()) {
         const Message &other = any_message_type(&choices_);
         HOLDS((object->message->isValid(object->msg()) != 0) ==
-              model::msg_is_valid(*object->message, nodes));
+              model::is_valid(*object->message, nodes));
         HOLDS(&other == object->message || other.isValid(object->msg()) == 0);
     } else {
         const Type &other = any_composite_type(&choices_);

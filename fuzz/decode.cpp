@@ -57,7 +57,7 @@ void check_message(TarnMsg *msg, const Block &input, const Nodes &nodes) {
     const Message *type = protocol::message_by_id(msg->messageId);
     HOLDS(type != nullptr && msg->messageId == TarnGetMessageId(input.data(), input.size()));
     const bool valid = type->isValid(msg) != 0;
-    HOLDS(valid == model::msg_is_valid(*type, nodes));
+    HOLDS(valid == model::is_valid(*type, nodes));
     HOLDS(valid || type->id == idIapReset || type->id == idRelocationRequired);
     HOLDS(fuzz::all_are_valid(&msg->ies));
     const Block packed = fuzz::pack(*type, msg);

@@ -100,17 +100,6 @@ TEST_F(ObjectsTest, TheHistoryBelongsToTheIeAndNotToTheOperation) {
     TarnDeleteMsg(msg);
 }
 
-TEST_F(ObjectsTest, AResetMessageGivesItsMessageIdAgain) {
-    TarnMsg *msg = TarnNewResetMsg();
-    TarnMessageId id = 0;
-    EXPECT_EQ(TarnExtractMessageIdFromResetMsg(msg, &id), 1U);
-    EXPECT_EQ(id, 17);
-    EXPECT_EQ(TarnExtractMessageIdFromResetMsg(msg, &id), 0U);
-    TarnResetMsgExtractHistory(msg);
-    EXPECT_EQ(TarnExtractMessageIdFromResetMsg(msg, &id), 1U);
-    TarnDeleteMsg(msg);
-}
-
 TEST_F(ObjectsTest, CompositesAreLentAndAbsentOnesAreNull) {
     TarnMsg *msg = TarnNewUeContextReleaseMsg();
     auto *ie = reinterpret_cast<TarnRabDataInfoListIe *>(msg);
@@ -120,6 +109,7 @@ TEST_F(ObjectsTest, CompositesAreLentAndAbsentOnesAreNull) {
     TarnAppendRabDataInfoListIeToUeContextReleaseMsg(msg, list);
     EXPECT_EQ(TarnExtractRabDataInfoListIeFromUeContextReleaseMsg(msg, &ie), 1U);
     EXPECT_EQ(ie, list);
+    EXPECT_EQ(list->ie.extractHistory, 1U);
     EXPECT_EQ(TarnExtractRabDataInfoListIeFromUeContextReleaseMsg(msg, &ie), 0U);
     EXPECT_EQ(ie, nullptr);
     TarnDeleteMsg(msg);

@@ -157,7 +157,7 @@ TEST_F(MessageValidity, AnyIesAsModelled) {
                 else if (place != nodes.end())
                     nodes.erase(place);
             }
-            ASSERT_EQ(is_valid(*message, nodes), model::msg_is_valid(*message, nodes))
+            ASSERT_EQ(is_valid(*message, nodes), model::is_valid(*message, nodes))
                 << message->name << ' ' << testing::PrintToString(nodes);
         }
 }

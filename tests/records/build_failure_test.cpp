@@ -284,7 +284,7 @@ TEST_F(BuildFailure, AnyMembersAsModelled) {
             });
             SCOPED_TRACE(message->name);
             const Record record = record_of(*message, nodes);
-            if (has_short_list(nodes) || !model::msg_is_valid(*message, nodes)) {
+            if (has_short_list(nodes) || !model::is_valid(*message, nodes)) {
                 expect_refused(*message, record, message->validityToken);
                 ++refused;
                 continue;

@@ -259,7 +259,7 @@ bool is_valid(const Node &node) {
            });
 }
 
-bool msg_is_valid(const Message &message, const Nodes &nodes) {
+bool is_valid(const Message &message, const Nodes &nodes) {
     return slots_are_valid(message.slots, nodes);
 }
 

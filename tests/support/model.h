@@ -23,7 +23,7 @@ Unpacked unpack_composite(const protocol::Type &type, Input bytes);
 std::optional<samples::Nodes> unpack_msg(const protocol::Message &message, Input bytes);
 
 bool is_valid(const samples::Node &node); // as an IE of its own type
-bool msg_is_valid(const protocol::Message &message, const samples::Nodes &nodes);
+bool is_valid(const protocol::Message &message, const samples::Nodes &nodes);
 
 } // namespace model
 
