@@ -107,6 +107,9 @@ TEST_F(ObjectsTest, CompositesAreLentAndAbsentOnesAreNull) {
     EXPECT_EQ(ie, nullptr);
     TarnRabDataInfoListIe *list = TarnNewRabDataInfoListIe();
     TarnAppendRabDataInfoListIeToUeContextReleaseMsg(msg, list);
+    list->ie.tag ^= 0x100; // both bytes of a tag count
+    EXPECT_EQ(TarnExtractRabDataInfoListIeFromUeContextReleaseMsg(msg, &ie), 0U);
+    list->ie.tag ^= 0x100;
     EXPECT_EQ(TarnExtractRabDataInfoListIeFromUeContextReleaseMsg(msg, &ie), 1U);
     EXPECT_EQ(ie, list);
     EXPECT_EQ(list->ie.extractHistory, 1U);
