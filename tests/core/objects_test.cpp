@@ -249,12 +249,15 @@ TEST_F(ObjectsTest, WhatIsAppendedComesOutWhole) {
     const auto check = [](void *owner, const Slot &slot) {
         for (Amount amount : samples::allAmounts) {
             Bytes given = samples::make_value(*slot.type, amount);
-            const std::string expected = samples::show(*slot.type, given.data());
-            ASSERT_EQ(slot.append(owner, given.data()), 1U) << expected;
+            if (slot.type->shape == Shape::bytes) // with what stands behind its length
+                std::fill(given.begin() + 4 + samples::count_of(given.data()), given.end(),
+                          std::uint8_t(0x5C));
+            const Bytes expected = given;
+            ASSERT_EQ(slot.append(owner, given.data()), 1U) << slot.name;
             std::fill(given.begin(), given.end(), std::uint8_t(0));
             Bytes taken(slot.type->valueSize, 0xCD);
-            ASSERT_EQ(slot.extract(owner, taken.data()), 1U) << expected;
-            EXPECT_EQ(samples::show(*slot.type, taken.data()), expected);
+            ASSERT_EQ(slot.extract(owner, taken.data()), 1U) << slot.name;
+            EXPECT_EQ(taken, expected) << slot.name;
         }
     };
     TarnMsg *msg = TarnNewResetMsg();
