@@ -4,7 +4,7 @@
 -- bytes of one message as the library does, IE by IE, and tells what they hold, where and why they
 -- stop, and what was let pass.
 
-local byte = string.byte
+local byte, find = string.byte, string.find
 
 local tagSize, headerSize = 2, 6
 
@@ -12,41 +12,84 @@ local tagSize, headerSize = 2, 6
 
 local typesByName, typesByTag, messagesById = {}, {}, {}
 
+-- The numbers with which a message, sequence or record always begins, as long as any value will do:
+-- `lead` holds their types in order, and by type the byte at which each begins; the pattern matches
+-- all of them at once.
+local function begin_lead(owner)
+  owner.lead, owner.leadSize, owner.leadPattern = {}, 0, "^"
+end
+
+local function extend_lead(owner, type)
+  local lead = owner.lead
+  lead[#lead + 1], lead[type] = type, owner.leadSize
+  owner.leadSize = owner.leadSize + type.size
+  owner.leadPattern = owner.leadPattern .. type.pattern:sub(2)
+end
+
+local function link_lead(owner, types)
+  for _, type in ipairs(types) do
+    if not type.pattern or owner.lead[type] then
+      return
+    end
+    extend_lead(owner, type)
+  end
+end
+
+-- `mustFill` are the slots that are not to stay empty when they are called for.
 local function link_slots(owner)
+  local types, isLeading = {}, true
+  owner.mustFill = {}
   for _, slot in ipairs(owner.slots) do
     slot.type = typesByName[slot.type]
     slot.condition = slot.condition and rows.conditions[slot.condition]
     slot.isMandatory = slot.presence == "mandatory"
-    slot.isPlainNumber = slot.type.shape == "scalar" and not slot.condition
+    isLeading = isLeading and slot.isMandatory
+    types[#types + 1] = isLeading and slot.type or nil
+    if slot.condition and owner.rule ~= "none" then
+      table.insert(owner.mustFill, slot)
+    end
   end
+  link_lead(owner, types)
 end
 
-local function link_type(type)
-  type.label = type.name .. " [" .. type.tag .. "]"
-  type.isComposite = type.shape == "sequence" or type.shape == "compositeList"
-  type.item = type.item and typesByName[type.item]
-  for i, member in ipairs(type.members or {}) do
-    type.members[i] = typesByName[member]
-  end
-  if type.slots then
-    link_slots(type)
-  end
-  if type.shape == "scalar" then -- of a code word only its width travels
-    type.greatest = math.min(type.greatest, 256 ^ type.width - 1)
+-- Of a code word only its width travels.
+local function link_number(type)
+  local most = 256 ^ type.width - 1
+  type.greatest = math.min(type.greatest, most)
+  type.size = headerSize + type.width
+  if type.least == 0 and type.greatest == most then
+    local header = string.char(math.floor(type.tag / 256), type.tag % 256, 0, 0, 0, type.width)
+    type.pattern = "^" .. header:gsub("%p", "%%%0") .. ("."):rep(type.width)
   end
 end
 
 for _, type in ipairs(rows.types) do
   typesByName[type.name], typesByTag[type.tag] = type, type
+  type.label = type.name .. " [" .. type.tag .. "]"
+  type.isComposite = type.shape == "sequence" or type.shape == "compositeList"
+  if type.shape == "scalar" then
+    link_number(type)
+  end
 end
 for _, condition in pairs(rows.conditions) do
   condition.type = typesByName[condition.type]
 end
 for _, type in ipairs(rows.types) do
-  link_type(type)
+  type.item = type.item and typesByName[type.item]
+  for i, member in ipairs(type.members or {}) do
+    type.members[i] = typesByName[member]
+  end
+  begin_lead(type)
+  if type.slots then
+    link_slots(type)
+  else
+    link_lead(type, type.members or {})
+  end
 end
 local messageIdType = typesByName.MessageId
 for _, message in ipairs(rows.messages) do
+  begin_lead(message)
+  extend_lead(message, messageIdType)
   link_slots(message)
   messagesById[message.id] = message
 end
@@ -140,6 +183,7 @@ end
 --
 -- A node is an IE or nested TLV: its row, its name and place in its parent, the byte at which its
 -- header begins, its size, and its parts as an array. A walk is the bytes and a position in them.
+-- Long captures spend most of their time here: loops count, as `ipairs` calls a function each time.
 
 -- With all its members at once: a table that grows is slow.
 local function new_node(parent, type, name, index)
@@ -159,6 +203,62 @@ local function number_at(bytes, at, width)
     return a
   end
   return width == 2 and a * 256 + b or ((a * 256 + b) * 256 + c) * 256 + d
+end
+
+-- A number that nothing is to be said about, with what showing it takes.
+local function number_node(bytes, at, type)
+  local number = number_at(bytes, at + headerSize, type.width)
+  return { type = type, at = at, size = type.size, number = number }
+end
+
+-- Takes the numbers with which `owner` begins, if they are there as its row has them. They become
+-- nodes only when somebody looks: most messages of a long capture are not looked at. Tells how many
+-- were taken; if none, the longer way tells why.
+local function take_lead(walk, owner, row)
+  local _, behind = find(walk.bytes, row.leadPattern, walk.at + 1)
+  if not behind then
+    return 0
+  end
+  owner.lead, owner.leadAt = row.lead, walk.at
+  walk.at = behind
+  return #row.lead
+end
+
+-- Takes one number, in the same way.
+local function take_number(walk, owner, type)
+  local at = walk.at
+  local _, behind = find(walk.bytes, type.pattern, at + 1)
+  if behind then
+    owner[#owner + 1] = number_node(walk.bytes, at, type)
+    walk.at = behind
+  end
+  return behind
+end
+
+-- Where the first part of a type begins among an owner's parts.
+local function place_in(owner, type)
+  local at = owner.lead and owner.lead[type]
+  if at then
+    return owner.leadAt + at
+  end
+  for i = 1, #owner do
+    if owner[i].type == type then
+      return owner[i].at
+    end
+  end
+end
+
+-- An owner's parts, all of them nodes.
+local function parts_of(bytes, owner)
+  local lead = owner.lead or {}
+  owner.lead = nil
+  for i = #owner, 1, -1 do
+    owner[i + #lead] = owner[i]
+  end
+  for i, type in ipairs(lead) do
+    owner[i] = number_node(bytes, owner.leadAt + lead[type], type)
+  end
+  return owner
 end
 
 local function header_fault(walk, node)
@@ -238,8 +338,12 @@ function readers.record(walk, node)
   if node.declared > walk.length - start then
     return too_few_left(walk, node)
   end
-  for i, type in ipairs(node.type.members) do
-    local member = new_node(node, type, type.name)
+  local members, taken = node.type.members, 0
+  if node.declared >= node.type.leadSize then
+    taken = take_lead(walk, node, node.type)
+  end
+  for i = taken + 1, #members do
+    local member = new_node(node, members[i], members[i].name)
     if walk.at - start >= node.declared then
       local values = { type = node.type, number = walk.at - start }
       return finding(member, walk.at, "MemberMissing", values)
@@ -248,7 +352,7 @@ function readers.record(walk, node)
     if fault then
       return fault
     end
-    node[i] = member
+    node[#node + 1] = member
   end
   note_length(walk, node)
 end
@@ -311,21 +415,19 @@ end
 
 -- ---- Slots of a sequence composite or a message ------------------------------------------------
 
-local function is_called_for(owner, slot)
+local function is_called_for(walk, owner, slot)
   local condition = slot.condition
-  for _, child in ipairs(owner) do
-    if child.type == condition.type then
-      return (condition.values[child.number] or false) == condition.inside
-    end
-  end
-  return false
+  local at = place_in(owner, condition.type)
+  local number = at and number_at(walk.bytes, at + headerSize, condition.type.width)
+  return number ~= nil and (condition.values[number] or false) == condition.inside
 end
 
 -- The first conditional slot that is not filled although it is called for. The walk fills none
 -- that is not.
-local function unmet_condition(owner, row)
-  for _, slot in ipairs(row.rule ~= "none" and row.slots or {}) do
-    if slot.condition and not owner[slot] and is_called_for(owner, slot) then
+local function unmet_condition(walk, owner, row)
+  for i = 1, #row.mustFill do
+    local slot = row.mustFill[i]
+    if not owner[slot] and is_called_for(walk, owner, slot) then
       return slot
     end
   end
@@ -335,7 +437,7 @@ local function needed(owner, slot, at)
   return finding(new_node(owner, slot.type, slot.name), at, "Needed", slot)
 end
 
-local read_slots, read_elements
+local read_rest, read_elements
 
 -- Each reader of a child tells what became of it: `absent` (another tag, or bytes that do not
 -- decode), `invalid` (decoded, out of its range or rules) or `valid`; and why it is not valid.
@@ -346,13 +448,17 @@ local function read_composite(walk, node)
     return "absent", fault
   end
   node.isComposite = true
-  fault = (type.slots and read_slots or read_elements)(walk, node, type)
+  if type.slots then
+    fault = read_rest(walk, node, type, take_lead(walk, node, type) + 1)
+  else
+    fault = read_elements(walk, node, type)
+  end
   node.size = walk.at - node.at
   if fault then
     return "absent", fault
   end
   note_length(walk, node)
-  local unmet = type.slots and unmet_condition(node, type)
+  local unmet = type.slots and unmet_condition(walk, node, type)
   if unmet then
     return "invalid", needed(node, unmet, walk.at)
   end
@@ -386,7 +492,7 @@ local function refusal(walk, owner, row, slot, node, outcome, fault)
     fault = finding(node, walk.at, "NotCalledFor", slot)
   end
   if slot.condition then
-    local calledFor = is_called_for(owner, slot)
+    local calledFor = is_called_for(walk, owner, slot)
     if outcome == "absent" and calledFor and not stoodThere and fault.reason ~= "HeaderCut" then
       local values = { condition = slot.condition, found = tag_at(walk) }
       fault = finding(node, fault.at, "NeededButFound", values)
@@ -412,42 +518,20 @@ local function go_back(walk, at, noteCount)
   end
 end
 
--- Most IEs are numbers with nothing wrong about them: these are taken in one step. Whether a number
--- was taken; if not, the longer way tells what is to be said of it.
-local function take_plain_number(walk, owner, slot)
-  local type, at = slot.type, walk.at
-  local size = headerSize + type.width
-  local a, b, c, d, e, f, g, h, i, j = byte(walk.bytes, at + 1, at + size)
-  if not g or b + a * 256 ~= type.tag or f ~= type.width or c + d + e > 0 then
-    return false
-  end
-  local number = j and ((g * 256 + h) * 256 + i) * 256 + j or h and g * 256 + h or g
-  if at + size > walk.length or number < type.least or number > type.greatest then
-    return false
-  end
-  owner[#owner + 1] = { parent = owner, type = type, name = slot.name, at = at, declared = f,
-    size = size, number = number }
-  walk.at = at + size
-  return true
-end
-
 -- Tries the child of one slot at the current position and moves behind it if it is taken. Returns
 -- why the owner is refused, if it is.
 local function read_slot(walk, owner, row, slot)
-  if slot.isPlainNumber and take_plain_number(walk, owner, slot) then
-    return nil
-  end
-  if not slot.isMandatory and not slot.condition and tag_at(walk) ~= slot.type.tag then
+  local isCalledFor = not slot.condition or is_called_for(walk, owner, slot)
+  if isCalledFor and slot.type.pattern and take_number(walk, owner, slot.type) then
+    owner[slot] = true
     return nil
   end
   local start, noteCount = walk.at, #walk.notes
   local node = new_node(owner, slot.type, slot.name)
   local outcome, fault = read_child(walk, node)
-  if outcome == "valid" and (not slot.condition or is_called_for(owner, slot)) then
+  if outcome == "valid" and isCalledFor then
     owner[#owner + 1] = node
-    if slot.condition then
-      owner[slot] = true
-    end
+    owner[slot] = true
     return nil
   end
   go_back(walk, start, noteCount)
@@ -466,20 +550,30 @@ local function end_of_bytes(walk, owner, row, next)
       return finding(new_node(owner, slot.type, slot.name), walk.at, "BytesEnd")
     end
     local mayRefuse = slot.condition and row.rule == "dropUncalledRequireAtEnd"
-    if mayRefuse and is_called_for(owner, slot) then
+    if mayRefuse and is_called_for(walk, owner, slot) then
       return needed(owner, slot, walk.at)
     end
   end
 end
 
-function read_slots(walk, owner, row)
-  for i, slot in ipairs(row.slots) do
+-- A slot that nothing calls for is passed over unless its IE stands here.
+local function is_tried(walk, owner, slot)
+  return slot.isMandatory or tag_at(walk) == slot.type.tag or
+    (slot.condition and is_called_for(walk, owner, slot))
+end
+
+-- The slots from `first` on.
+function read_rest(walk, owner, row, first)
+  local slots = row.slots
+  for i = first, #slots do
+    local slot = slots[i]
     if walk.at == walk.length then
       return end_of_bytes(walk, owner, row, i)
-    end
-    local fault = read_slot(walk, owner, row, slot)
-    if fault then
-      return fault
+    elseif is_tried(walk, owner, slot) then
+      local fault = read_slot(walk, owner, row, slot)
+      if fault then
+        return fault
+      end
     end
   end
 end
@@ -567,6 +661,17 @@ local function read_message_id(walk, root)
   return message, not message and finding(node, headerSize, "UnknownMessageId", node)
 end
 
+-- The parts of a message, in the most frequent case without a look at its MessageId alone.
+local function read_parts(walk, root)
+  local likely = messagesById[byte(walk.bytes, messageIdType.size)]
+  local taken = likely and take_lead(walk, root, likely) or 0
+  if taken > 0 then
+    return likely, read_rest(walk, root, likely, taken) -- the first one taken is no slot
+  end
+  local message, fault = read_message_id(walk, root)
+  return message, fault or read_rest(walk, root, message, 1)
+end
+
 -- Reads the bytes of one message, a string. The result: the message's row if it is known, the IEs
 -- read as nodes below `root`, the verdict (`valid`, `invalid` or `refused`), the faults that it
 -- rests on, notes on what was let pass, and how many bytes were taken.
@@ -574,15 +679,14 @@ local function read_message(bytes)
   local walk = { bytes = bytes, length = #bytes, at = 0, notes = {}, leftOut = {} }
   local root = {}
   local result = { root = root, faults = {}, notes = walk.notes, taken = 0, verdict = "refused" }
-  local message, fault = read_message_id(walk, root)
+  local message, fault = read_parts(walk, root)
   result.message = message
-  fault = fault or read_slots(walk, root, message)
   if fault then
     result.faults[1] = fault
     add_left_out(walk, fault.at, result.faults)
     return result
   end
-  local unmet = unmet_condition(root, message)
+  local unmet = unmet_condition(walk, root, message)
   result.faults[1] = unmet and needed(root, unmet, walk.at)
   result.verdict = unmet and "invalid" or "valid"
   explain_rest(walk, root, message)
@@ -639,6 +743,7 @@ end
 local engine = {
   rows = rows,
   read_message = read_message,
+  parts_of = parts_of,
   words = words,
   readable = readable,
   messagesById = messagesById,

@@ -104,9 +104,9 @@ local function range_of(view, at, size)
   return view.tvb(view.start + at, size)
 end
 
-local function dotted(node)
+local function dotted(node, bytes)
   local parts = {}
-  for i, part in ipairs(node) do
+  for i, part in ipairs(parts_of(bytes, node)) do
     parts[i] = part.number
   end
   return table.concat(parts, ".")
@@ -137,7 +137,7 @@ local function add_parent(tree, node, view, pinfo)
     title = title .. ": " .. counted(node.count, units[type.shape])
   end
   item:set_text(title)
-  for _, child in ipairs(node) do
+  for _, child in ipairs(parts_of(view.bytes, node)) do
     add_node(item, child, view, pinfo)
   end
 end
@@ -149,7 +149,7 @@ function add_node(tree, node, view, pinfo)
   elseif type.shape == "bytes" then
     add_bytes(tree, node, view, pinfo)
   elseif type.form == "Dotted" then
-    local address = Address.ip(dotted(node))
+    local address = Address.ip(dotted(node, view.bytes))
     tree:add(fieldOf[type], range_of(view, node.at, node.size), address)
   else
     add_parent(tree, node, view, pinfo)
@@ -184,53 +184,65 @@ local responsesTo = {
   AccessControlRequest = { "AccessControlResponse" },
 }
 
--- The mandatory numbers of a message, by their type.
-local function mandatory_numbers(message)
-  local found = {}
+-- A request and its responses belong together if they agree in each number that all of them must
+-- carry: the UE, and what else tells one procedure from another.
+local function count_mandatory_numbers(message, counts)
   for _, slot in ipairs(message.slots) do
-    found[slot.type] = slot.isMandatory and slot.type.shape == "scalar" or nil
-  end
-  return found
-end
-
--- A pair belongs together if they agree in each number that both must carry: the UE, and what else
--- tells one procedure from another.
-local function make_pair(request, response)
-  local pair = { types = {}, waiting = {} }
-  local others = mandatory_numbers(request)
-  for _, slot in ipairs(response.slots) do
-    if others[slot.type] and slot.isMandatory then
-      pair.types[#pair.types + 1] = slot.type
+    if slot.isMandatory and slot.type.shape == "scalar" then
+      counts[slot.type] = (counts[slot.type] or 0) + 1
     end
   end
-  return pair
-end
-
--- By the message's row: the pairs in which it is the request, and in which it is the response.
-local asRequest, asResponse = {}, {}
-
-local isPaired = {}
-
-local function add_to(lists, row, pair)
-  lists[row] = lists[row] or {}
-  table.insert(lists[row], pair)
-  isPaired[row] = true
 end
 
 local messagesByName = {}
 for _, message in ipairs(rows.messages) do
   messagesByName[message.name] = message
 end
-for request, responses in pairs(responsesTo) do
+
+local function make_procedure(request, responses)
+  local procedure, counts = { types = {}, waiting = {} }, {}
+  count_mandatory_numbers(request, counts)
   for _, response in ipairs(responses) do
-    local pair = make_pair(messagesByName[request], messagesByName[response])
-    add_to(asRequest, messagesByName[request], pair)
-    add_to(asResponse, messagesByName[response], pair)
+    count_mandatory_numbers(messagesByName[response], counts)
+  end
+  for _, slot in ipairs(request.slots) do
+    if counts[slot.type] == 1 + #responses then
+      table.insert(procedure.types, slot.type)
+    end
+  end
+  return procedure
+end
+
+-- By the message's row: the procedure of which it is the request, or a response.
+local asRequest, asResponse, isPaired = {}, {}, {}
+for name, responses in pairs(responsesTo) do
+  local request = messagesByName[name]
+  asRequest[request] = make_procedure(request, responses)
+  isPaired[request] = true
+  for _, response in ipairs(responses) do
+    asResponse[messagesByName[response]] = asRequest[request]
+    isPaired[messagesByName[response]] = true
   end
 end
 
--- What is known of a message's partner, by the message's place in the capture.
-local links = {}
+-- Links of a request and its response, counted from 1, in columns of numbers: long captures have
+-- many, and a table for each would be much to look through when memory is collected.
+local links
+
+local function forget_links()
+  links = {
+    count = 0,
+    request = {}, -- its packet
+    response = {},
+    seconds = {}, -- when the request came; then until the response
+    next = {}, -- the next request that waits under the same key
+    youngest = {}, -- the last one in the chain that begins here
+    asked = {}, -- the link of a request, by its place in the capture
+    answered = {}, -- that of a response
+  }
+end
+
+forget_links()
 
 -- Two messages of one packet begin at different bytes.
 local function place_of(view, pinfo)
@@ -241,92 +253,97 @@ end
 local function ends_of(pinfo)
   local from, to = tostring(pinfo.src), tostring(pinfo.dst)
   local port, otherPort = pinfo.src_port, pinfo.dst_port
-  if from > to then
-    from, to = to, from
+  if from > to or (from == to and port > otherPort) then
+    from, to, port, otherPort = to, from, otherPort, port
   end
-  return from .. " " .. to .. " " .. math.min(port, otherPort) * 65536 + math.max(port, otherPort)
+  return from .. " " .. to .. " " .. port * 65536 + otherPort
 end
 
--- The ends, and the numbers that the pair goes by, as they stand in the message.
-local function pair_key(pair, result, view, ends)
+-- The ends, and the numbers that the procedure goes by, as they stand in the message.
+local function key_of(procedure, result, view, ends)
   local key = ends
-  for _, type in ipairs(pair.types) do
-    for _, child in ipairs(result.root) do
-      if child.type == type then
-        key = key .. view.bytes:sub(child.at + 1, child.at + child.size)
-      end
-    end
+  for _, type in ipairs(procedure.types) do
+    local at = place_in(result.root, type)
+    key = key .. view.bytes:sub(at + 1, at + type.size)
   end
   return key
 end
 
--- The oldest request that waits for this response.
-local function take_request(pair, key)
-  local waiting = pair.waiting[key] or {}
-  while waiting[1] do
-    local link = table.remove(waiting, 1)
-    if not link.response then
-      return link
-    end
+-- Requests of one key wait in a chain, the oldest one first: a capture may lack many responses.
+local function add_request(waiting, key, link)
+  local oldest = waiting[key] or link
+  if oldest ~= link then
+    links.next[links.youngest[oldest]] = link
   end
+  waiting[key], links.youngest[oldest] = oldest, link
+end
+
+local function take_request(waiting, key)
+  local oldest = waiting[key]
+  local following = oldest and links.next[oldest]
+  waiting[key] = following
+  if following then
+    links.youngest[following] = links.youngest[oldest]
+  end
+  return oldest
 end
 
 local function link_message(result, view, pinfo)
   local place, ends = place_of(view, pinfo), ends_of(pinfo)
-  for _, pair in ipairs(asResponse[result.message] or {}) do
-    local link = take_request(pair, pair_key(pair, result, view, ends))
-    if link then
-      link.response, link.seconds = pinfo.number, pinfo.rel_ts - link.seconds
-      links[place] = { asResponse = link }
-      break
-    end
+  local procedure = asResponse[result.message]
+  local link = procedure and
+    take_request(procedure.waiting, key_of(procedure, result, view, ends))
+  if link then
+    links.response[link] = pinfo.number
+    links.seconds[link] = pinfo.rel_ts - links.seconds[link]
+    links.answered[place] = link
   end
-  for _, pair in ipairs(asRequest[result.message] or {}) do
-    links[place] = links[place] or {}
-    local link = links[place].asRequest or { request = pinfo.number, seconds = pinfo.rel_ts }
-    links[place].asRequest = link
-    local key = pair_key(pair, result, view, ends)
-    pair.waiting[key] = pair.waiting[key] or {}
-    table.insert(pair.waiting[key], link)
+  procedure = asRequest[result.message]
+  if procedure then
+    link = links.count + 1
+    links.count, links.asked[place] = link, link
+    links.request[link], links.seconds[link] = pinfo.number, pinfo.rel_ts
+    add_request(procedure.waiting, key_of(procedure, result, view, ends), link)
   end
 end
 
 local function add_links(tree, place)
-  local link = links[place] or {}
-  if link.asRequest and link.asRequest.response then
-    tree:add(fields.responseIn, link.asRequest.response):set_generated()
+  local link = links.asked[place]
+  if link and links.response[link] then
+    tree:add(fields.responseIn, links.response[link]):set_generated()
   end
-  if link.asResponse then
-    local seconds = link.asResponse.seconds
+  link = links.answered[place]
+  if link then
+    local seconds = links.seconds[link]
     local whole = math.floor(seconds)
     local nanoseconds = math.floor((seconds - whole) * 1e9 + 0.5)
-    tree:add(fields.requestIn, link.asResponse.request):set_generated()
+    tree:add(fields.requestIn, links.request[link]):set_generated()
     tree:add(fields.responseTime, NSTime.new(whole, nanoseconds)):set_generated()
   end
 end
 
 function tarn.init()
-  links = {}
-  for _, list in pairs(asRequest) do
-    for _, pair in ipairs(list) do
-      pair.waiting = {}
-    end
+  forget_links()
+  for _, procedure in pairs(asRequest) do
+    procedure.waiting = {}
   end
 end
 
 -- ---- A message ---------------------------------------------------------------------------------
 
 local ownDissector -- once it is registered
+local srntiType, ueType = typesByName.Srnti, typesByName.AcUeId
 
 -- "UeContextAccept, S-RNTI 0x12001, UE 7001, valid"
-local function summary(result)
-  local text = result.message and result.message.name or "No known message"
-  for _, child in ipairs(result.root) do
-    if child.type.name == "Srnti" then
-      text = string.format("%s, S-RNTI 0x%x", text, child.number)
-    elseif child.type.name == "AcUeId" then
-      text = string.format("%s, UE %d", text, child.number)
-    end
+local function summary(result, bytes)
+  local text, root = result.message and result.message.name or "No known message", result.root
+  local srnti, ue = place_in(root, srntiType), place_in(root, ueType)
+  if srnti then
+    srnti = number_at(bytes, srnti + headerSize, srntiType.width)
+    text = string.format("%s, S-RNTI 0x%x", text, srnti)
+  end
+  if ue then
+    text = string.format("%s, UE %d", text, number_at(bytes, ue + headerSize, ueType.width))
   end
   return text .. ", " .. result.verdict
 end
@@ -341,7 +358,7 @@ local function add_contents(item, result, view, pinfo)
   if isPaired[result.message] then
     add_links(item, place_of(view, pinfo))
   end
-  for _, child in ipairs(result.root) do
+  for _, child in ipairs(parts_of(view.bytes, result.root)) do
     add_node(item, child, view, pinfo)
   end
 end
@@ -362,12 +379,7 @@ local function add_findings(add, item, result, view)
 end
 
 local function holds_nas(result)
-  for _, child in ipairs(dissectsNas and result.root or {}) do
-    if child.type == nasType then
-      return true
-    end
-  end
-  return false
+  return dissectsNas and place_in(result.root, nasType)
 end
 
 -- Most packets of a long capture are neither shown nor filtered by an IE, and making their trees
@@ -398,7 +410,7 @@ end
 local function dissect_message(tvb, start, bytes, pinfo, tree, isFramed)
   local view = { tvb = tvb, start = start, bytes = bytes, isFramed = isFramed }
   local result = read_message(view.bytes)
-  local text = summary(result)
+  local text = summary(result, bytes)
   local info = show_in_columns(text, pinfo)
   if isPaired[result.message] and not pinfo.visited and result.verdict ~= "refused" then
     link_message(result, view, pinfo)

@@ -55,14 +55,18 @@ local function number_bytes(number, width)
 end
 
 -- All IEs and nested TLVs that can be read.
-local function collect(node, found)
-  for _, child in ipairs(node) do
+local function collect(bytes, node, found)
+  for _, child in ipairs(engine.parts_of(bytes, node)) do
     if child.size then
       found[#found + 1] = child
     end
-    collect(child, found)
+    collect(bytes, child, found)
   end
   return found
+end
+
+local function length_of(node)
+  return node.declared or node.size - engine.headerSize
 end
 
 local function replace(bytes, at, length, by)
@@ -91,7 +95,8 @@ local mutations = {
     return replace(bytes, node.at, 2, number_bytes(any_type().tag, 2))
   end,
   function(bytes, node) -- a length that is near, or far off
-    local length = any_of({ node.declared - 1, node.declared + 1, random(40), 0, 4294967295 })
+    local length = length_of(node)
+    length = any_of({ length - 1, length + 1, random(40), 0, 4294967295 })
     return replace(bytes, node.at + 2, 4, number_bytes(length % 4294967296, 4))
   end,
   function(bytes, node) -- left out
@@ -111,14 +116,14 @@ local mutations = {
     return bytes .. any_of({ "\0", "\0\1\0\0\0\4\0\0\0\1", "\1\44\0\0\0\1\9", bytes })
   end,
   function(bytes, node) -- a byte more, with the length to match
-    local length = number_bytes(node.declared + 1, 4)
+    local length = number_bytes(length_of(node) + 1, 4)
     return replace(replace(bytes, node.at + node.size, 0, "\0"), node.at + 2, 4, length)
   end,
 }
 
 local function mutate(bytes)
   for _ = 1, any_of({ 1, 1, 1, 2, 3 }) do
-    local nodes = collect(engine.read_message(bytes).root, {})
+    local nodes = collect(bytes, engine.read_message(bytes).root, {})
     local before = bytes
     if #bytes > 7 and #nodes > 0 then
       bytes = any_of(mutations)(bytes, any_of(nodes), nodes)
