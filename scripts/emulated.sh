@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 # What takes seconds here takes minutes there; tags and mutations without number say nothing of a
 # processor. An emulated program cannot start itself, as some death tests do.
 left_out='*MutatedBytes:*EveryTruncation:HostileComposite.*:PackingUnderAnotherTagTest.ASmaller*:*DeathTest.*'
-preset=$1
+preset=${1:?armhf or s390x}
 programs=(core_test primitive_ies_test composite_ies_test messages_test records_test)
 # Its size_t of 32 bits matters to the host and the threads as well.
 [ "$preset" != armhf ] || programs+=(host_test threads_test)
