@@ -76,15 +76,22 @@ TEST_F(MessagePacking, OnlyTheMessagesOwnIesArePacked) {
     }
 }
 
+// Puts all values out of range that have a range, at any depth.
+void spoil(Nodes *nodes, Random &random) {
+    for (Node &node : *nodes) {
+        spoil(&node.children, random);
+        if (auto invalid = samples::make_invalid(*node.type, random))
+            node = *std::move(invalid);
+    }
+}
+
 TEST_F(MessagePacking, NeitherValidatesNorReorders) {
     Random random(5);
     for (const Message *message : protocol::messages()) {
         Nodes nodes = samples::make_message(*message, Amount::slim, random);
         std::reverse(nodes.begin(), nodes.end());
         nodes.push_back(nodes.front());
-        for (Node &node : nodes)
-            if (auto invalid = samples::make_invalid(*node.type, random))
-                node = *std::move(invalid);
+        spoil(&nodes, random);
         const Bytes expected = samples::encode(nodes);
         Bytes buffer(expected.size());
         EXPECT_EQ(pack(*message, nodes, &buffer), 1U) << message->name;
