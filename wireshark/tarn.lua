@@ -693,10 +693,14 @@ end
 -- header begins, its size, and its parts as an array. A walk is the bytes and a position in them.
 -- Long captures spend most of their time here: loops count, as `ipairs` calls a function each time.
 
--- With all its members at once: a table that grows is slow.
+-- With what most have at once, and room for two members more: a table that grows is slow. `declared`
+-- is the length in the header once that was read.
 local function new_node(parent, type, name, index)
-  return { parent = parent, type = type, name = name, index = index, at = 0, declared = 0,
-    size = 0, number = 0 }
+  local node = { parent = parent, type = type, name = name, at = 0, declared = false, size = 0 }
+  if index then
+    node.index = index
+  end
+  return node
 end
 
 -- The tag at the position, 0 if there is not enough for one.
@@ -865,23 +869,35 @@ function readers.record(walk, node)
   note_length(walk, node)
 end
 
+-- An item that is a plain number needs no closer look.
+local function read_item(walk, list, item)
+  if item.pattern and take_number(walk, list, item) then
+    return nil
+  end
+  local node = new_node(list, item, item.name, list.count)
+  local fault = read_value(walk, node)
+  if not fault then
+    list[#list + 1] = node
+  end
+  return fault
+end
+
 function readers.list(walk, node)
-  local start, type = walk.at, node.type
+  local start, type, item = walk.at, node.type, node.type.item
   if node.declared > walk.length - start then
     return too_few_left(walk, node)
   end
   node.count = 0
   while walk.at - start < node.declared do
-    local item = new_node(node, type.item, type.item.name, node.count)
     if node.count == type.capacity then
-      return finding(item, walk.at, "TooManyItems", { type = type })
+      local extra = new_node(node, item, item.name, node.count)
+      return finding(extra, walk.at, "TooManyItems", { type = type })
     end
-    local fault = read_value(walk, item)
+    local fault = read_item(walk, node, item)
     if fault then
       return fault
     end
     node.count = node.count + 1
-    node[node.count] = item
   end
   note_length(walk, node)
 end
@@ -955,7 +971,6 @@ local function read_composite(walk, node)
   if fault then
     return "absent", fault
   end
-  node.isComposite = true
   if type.slots then
     fault = read_rest(walk, node, type, take_lead(walk, node, type) + 1)
   else
@@ -990,8 +1005,8 @@ local function leave_out(walk, slot, fault)
   walk.leftOut[#walk.leftOut + 1] = { at = walk.at, slot = slot, why = fault }
 end
 
--- Whether a child that is not taken refuses its owner, and why.
-local function refusal(walk, owner, row, slot, node, outcome, fault)
+-- Why a child that is not taken refuses its owner, if it does.
+local function refusal(walk, row, slot, node, outcome, fault, isCalledFor)
   if slot.isMandatory then
     return fault
   end
@@ -1000,12 +1015,11 @@ local function refusal(walk, owner, row, slot, node, outcome, fault)
     fault = finding(node, walk.at, "NotCalledFor", slot)
   end
   if slot.condition then
-    local calledFor = is_called_for(walk, owner, slot)
-    if outcome == "absent" and calledFor and not stoodThere and fault.reason ~= "HeaderCut" then
+    if outcome == "absent" and isCalledFor and not stoodThere and fault.reason ~= "HeaderCut" then
       local values = { condition = slot.condition, found = tag_at(walk) }
       fault = finding(node, fault.at, "NeededButFound", values)
     end
-    local refuses = calledFor
+    local refuses = isCalledFor
     if outcome ~= "absent" then
       refuses = row.rule == "refuseUncalled"
     end
@@ -1026,12 +1040,17 @@ local function go_back(walk, at, noteCount)
   end
 end
 
+local function note_filled(owner, slot)
+  if slot.condition then
+    owner[slot] = true
+  end
+end
+
 -- Tries the child of one slot at the current position and moves behind it if it is taken. Returns
 -- why the owner is refused, if it is.
-local function read_slot(walk, owner, row, slot)
-  local isCalledFor = not slot.condition or is_called_for(walk, owner, slot)
+local function read_slot(walk, owner, row, slot, isCalledFor)
   if isCalledFor and slot.type.pattern and take_number(walk, owner, slot.type) then
-    owner[slot] = true
+    note_filled(owner, slot)
     return nil
   end
   local start, noteCount = walk.at, #walk.notes
@@ -1039,12 +1058,12 @@ local function read_slot(walk, owner, row, slot)
   local outcome, fault = read_child(walk, node)
   if outcome == "valid" and isCalledFor then
     owner[#owner + 1] = node
-    owner[slot] = true
+    note_filled(owner, slot)
     return nil
   end
   go_back(walk, start, noteCount)
-  fault = refusal(walk, owner, row, slot, node, outcome, fault)
-  if fault and node.isComposite then
+  fault = refusal(walk, row, slot, node, outcome, fault, isCalledFor)
+  if fault and node.type.isComposite and node.declared then
     owner[#owner + 1] = node -- shows how far it went
   end
   return fault
@@ -1064,21 +1083,18 @@ local function end_of_bytes(walk, owner, row, next)
   end
 end
 
--- A slot that nothing calls for is passed over unless its IE stands here.
-local function is_tried(walk, owner, slot)
-  return slot.isMandatory or tag_at(walk) == slot.type.tag or
-    (slot.condition and is_called_for(walk, owner, slot))
-end
-
--- The slots from `first` on.
+-- The slots from `first` on. One that nothing calls for is passed over unless its IE stands there.
 function read_rest(walk, owner, row, first)
   local slots = row.slots
   for i = first, #slots do
-    local slot = slots[i]
     if walk.at == walk.length then
       return end_of_bytes(walk, owner, row, i)
-    elseif is_tried(walk, owner, slot) then
-      local fault = read_slot(walk, owner, row, slot)
+    end
+    local slot = slots[i]
+    local isCalledFor = not slot.condition or is_called_for(walk, owner, slot)
+    local isAwaited = slot.isMandatory or (slot.condition and isCalledFor)
+    if isAwaited or tag_at(walk) == slot.type.tag then
+      local fault = read_slot(walk, owner, row, slot, isCalledFor)
       if fault then
         return fault
       end
@@ -1098,7 +1114,7 @@ function read_elements(walk, list, type)
     local at, noteCount = walk.at, #walk.notes
     local element = new_node(list, type.item, type.item.name, list.count)
     local outcome, fault = read_composite(walk, element)
-    if element.isComposite then
+    if element.declared then
       list[#list + 1] = element
     end
     if outcome ~= "valid" then
@@ -1185,7 +1201,7 @@ end
 -- rests on, notes on what was let pass, and how many bytes were taken.
 local function read_message(bytes)
   local walk = { bytes = bytes, length = #bytes, at = 0, notes = {}, leftOut = {} }
-  local root = {}
+  local root = { lead = false, leadAt = 0 }
   local result = { root = root, faults = {}, notes = walk.notes, taken = 0, verdict = "refused" }
   local message, fault = read_parts(walk, root)
   result.message = message
