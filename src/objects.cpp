@@ -14,7 +14,7 @@ TARN_INLINE void delete_all(VelDllHead *const all) {
         if (ie != nullptr) {
             xVelDllRemoveNode(list, &ie->node, moduleApi, __LINE__);
             if (is_composite_tag(ie->tag)) {
-                memcpy(at_offset(ie, markOffset), &list, sizeof list);
+                memcpy(at_offset(ie, markOffset), &list, sizeof(void *));
                 list = children_of(ie);
                 continue;
             }
@@ -22,7 +22,7 @@ TARN_INLINE void delete_all(VelDllHead *const all) {
             if (list == all)
                 return;
             ie = reinterpret_cast<TarnIe *>(list) - 1;
-            memcpy(&list, at_offset(ie, markOffset), sizeof list);
+            memcpy(&list, at_offset(ie, markOffset), sizeof(void *));
         }
         release(ie, TARN_CALLER(moduleApi));
     }

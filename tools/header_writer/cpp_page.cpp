@@ -8,7 +8,7 @@
 namespace header_writer {
 namespace {
 
-constexpr const char *prose =
+constexpr const char *purpose =
     R"(libtarn for C++17: records and objects with types, over the C interface of tarn_if.h, which
 stays at hand. Everything is inline and in namespace tarn; nothing throws, aborts or allocates but
 where a std::vector is asked for. Where the C interface knows a fatal error (no bytes, no object, too
@@ -265,7 +265,7 @@ void Writer::by_id(const std::string &head, const std::string &before, const std
 std::string cpp_header(const Catalogue &catalogue) {
     Page page;
     page.notice();
-    page.comment(prose);
+    page.comment(purpose);
     page.line("#ifndef TARN_HPP");
     page.line("#define TARN_HPP");
     page.line();
