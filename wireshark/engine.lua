@@ -703,8 +703,11 @@ local function read_message(bytes)
     return result
   end
   local unmet = unmet_condition(walk, root, message)
-  result.faults[1] = unmet and needed(root, unmet, walk.at)
-  result.verdict = unmet and "invalid" or "valid"
+  result.verdict = "valid"
+  if unmet then
+    result.verdict = "invalid"
+    result.faults[1] = needed(root, unmet, walk.at)
+  end
   explain_rest(walk, root, message)
   result.taken = walk.at
   return result

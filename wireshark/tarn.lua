@@ -1211,8 +1211,11 @@ local function read_message(bytes)
     return result
   end
   local unmet = unmet_condition(walk, root, message)
-  result.faults[1] = unmet and needed(root, unmet, walk.at)
-  result.verdict = unmet and "invalid" or "valid"
+  result.verdict = "valid"
+  if unmet then
+    result.verdict = "invalid"
+    result.faults[1] = needed(root, unmet, walk.at)
+  end
   explain_rest(walk, root, message)
   result.taken = walk.at
   return result
@@ -1613,19 +1616,22 @@ end
 
 local ownDissector -- once it is registered
 local srntiType, ueType = typesByName.Srnti, typesByName.AcUeId
+local format = string.format
 
 -- "UeContextAccept, S-RNTI 0x12001, UE 7001, valid"
 local function summary(result, bytes)
-  local text, root = result.message and result.message.name or "No known message", result.root
+  local name, root = result.message and result.message.name or "No known message", result.root
   local srnti, ue = place_in(root, srntiType), place_in(root, ueType)
-  if srnti then
-    srnti = number_at(bytes, srnti + headerSize, srntiType.width)
-    text = string.format("%s, S-RNTI 0x%x", text, srnti)
+  srnti = srnti and number_at(bytes, srnti + headerSize, srntiType.width)
+  ue = ue and number_at(bytes, ue + headerSize, ueType.width)
+  if srnti and ue then
+    return format("%s, S-RNTI 0x%x, UE %d, %s", name, srnti, ue, result.verdict)
+  elseif srnti then
+    return format("%s, S-RNTI 0x%x, %s", name, srnti, result.verdict)
+  elseif ue then
+    return format("%s, UE %d, %s", name, ue, result.verdict)
   end
-  if ue then
-    text = string.format("%s, UE %d", text, number_at(bytes, ue + headerSize, ueType.width))
-  end
-  return text .. ", " .. result.verdict
+  return name .. ", " .. result.verdict
 end
 
 local function add_contents(item, result, view, pinfo)
@@ -1658,21 +1664,28 @@ local function add_findings(add, item, result, view)
   end
 end
 
-local function holds_nas(result)
-  return dissectsNas and place_in(result.root, nasType)
+-- A NAS message alone: its dissector has fields and findings of its own.
+local function add_nas(item, at, view, pinfo)
+  local size = number_at(view.bytes, at + tagSize, headerSize - tagSize)
+  if size > 0 then
+    dissect_nas(range_of(view, at + headerSize, size), pinfo, item)
+  end
 end
 
 -- Most packets of a long capture are neither shown nor filtered by an IE, and making their trees
 -- would take most of the time. Findings are always wanted, by the list of expert information; and
--- so are NAS messages, whose dissector has fields and findings of its own.
+-- so are NAS messages.
 local function add_message(tree, result, view, pinfo, text)
-  local isWanted = tree.visible or tree:referenced(ownDissector) or holds_nas(result)
-  if not isWanted and #result.faults == 0 and #result.notes == 0 then
+  local isWanted = tree.visible or tree:referenced(ownDissector)
+  local nasAt = not isWanted and dissectsNas and place_in(result.root, nasType)
+  if not isWanted and not nasAt and #result.faults == 0 and #result.notes == 0 then
     return
   end
   local item = tree:add(tarn, range_of(view, 0, #view.bytes), "Tarn Signalling: " .. text)
   if isWanted then
     add_contents(item, result, view, pinfo)
+  elseif nasAt then
+    add_nas(item, nasAt, view, pinfo)
   end
   add_findings(isWanted and add_finding or list_finding, item, result, view)
 end
