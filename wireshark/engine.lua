@@ -183,7 +183,7 @@ end
 --
 -- A node is an IE or nested TLV: its row, its name and place in its parent, the byte at which its
 -- header begins, its size, and its parts as an array. A walk is the bytes and a position in them.
--- Long captures spend most of their time here: loops count, as `ipairs` calls a function each time.
+-- Long captures spend most of their time here, so loops use indices: `ipairs` makes a call each time.
 
 -- With what most have at once, and room for two members more: a table that grows is slow. `declared`
 -- is the length in the header once that was read.

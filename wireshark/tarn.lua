@@ -691,7 +691,7 @@ end
 --
 -- A node is an IE or nested TLV: its row, its name and place in its parent, the byte at which its
 -- header begins, its size, and its parts as an array. A walk is the bytes and a position in them.
--- Long captures spend most of their time here: loops count, as `ipairs` calls a function each time.
+-- Long captures spend most of their time here, so loops use indices: `ipairs` makes a call each time.
 
 -- With what most have at once, and room for two members more: a table that grows is slow. `declared`
 -- is the length in the header once that was read.
@@ -1497,15 +1497,17 @@ local function make_procedure(request, responses)
 end
 
 -- By the message's row: the procedure of which it is the request, or a response.
-local asRequest, asResponse, isPaired = {}, {}, {}
+local asRequest, asResponse = {}, {}
 for name, responses in pairs(responsesTo) do
   local request = messagesByName[name]
   asRequest[request] = make_procedure(request, responses)
-  isPaired[request] = true
   for _, response in ipairs(responses) do
     asResponse[messagesByName[response]] = asRequest[request]
-    isPaired[messagesByName[response]] = true
   end
+end
+
+local function is_paired(message)
+  return asRequest[message] or asResponse[message]
 end
 
 -- Links of a request and its response, counted from 1, in columns of numbers: long captures have
@@ -1616,22 +1618,19 @@ end
 
 local ownDissector -- once it is registered
 local srntiType, ueType = typesByName.Srnti, typesByName.AcUeId
-local format = string.format
 
 -- "UeContextAccept, S-RNTI 0x12001, UE 7001, valid"
 local function summary(result, bytes)
-  local name, root = result.message and result.message.name or "No known message", result.root
-  local srnti, ue = place_in(root, srntiType), place_in(root, ueType)
-  srnti = srnti and number_at(bytes, srnti + headerSize, srntiType.width)
-  ue = ue and number_at(bytes, ue + headerSize, ueType.width)
-  if srnti and ue then
-    return format("%s, S-RNTI 0x%x, UE %d, %s", name, srnti, ue, result.verdict)
-  elseif srnti then
-    return format("%s, S-RNTI 0x%x, %s", name, srnti, result.verdict)
-  elseif ue then
-    return format("%s, UE %d, %s", name, ue, result.verdict)
+  local text = result.message and result.message.name or "No known message"
+  local srnti, ue = place_in(result.root, srntiType), place_in(result.root, ueType)
+  if srnti then
+    srnti = number_at(bytes, srnti + headerSize, srntiType.width)
+    text = string.format("%s, S-RNTI 0x%x", text, srnti)
   end
-  return name .. ", " .. result.verdict
+  if ue then
+    text = string.format("%s, UE %d", text, number_at(bytes, ue + headerSize, ueType.width))
+  end
+  return text .. ", " .. result.verdict
 end
 
 local function add_contents(item, result, view, pinfo)
@@ -1641,7 +1640,7 @@ local function add_contents(item, result, view, pinfo)
   end
   item:add(fields.message, whole, result.message and result.message.name or ""):set_generated()
   item:add(fields.verdict, whole, result.verdict):set_generated()
-  if isPaired[result.message] then
+  if is_paired(result.message) then
     add_links(item, place_of(view, pinfo))
   end
   for _, child in ipairs(parts_of(view.bytes, result.root)) do
@@ -1705,7 +1704,7 @@ local function dissect_message(tvb, start, bytes, pinfo, tree, isFramed)
   local result = read_message(view.bytes)
   local text = summary(result, bytes)
   local info = show_in_columns(text, pinfo)
-  if isPaired[result.message] and not pinfo.visited and result.verdict ~= "refused" then
+  if is_paired(result.message) and not pinfo.visited and result.verdict ~= "refused" then
     link_message(result, view, pinfo)
   end
   add_message(tree, result, view, pinfo, text)

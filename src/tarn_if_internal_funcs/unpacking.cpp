@@ -10,19 +10,22 @@ namespace {
 
 // ---- IE objects from bytes that were judged good -----------------------------------------------
 
-// Composites up to so many levels are made where they stand, and others by functions of their own,
-// whose calls cost more than a small composite does.
+// Composites of up to this many levels are made where they stand, and others by functions of their
+// own, whose calls cost more than a small composite does.
 constexpr unsigned levelsInPlace = 3;
 
 [[maybe_unused]] constexpr unsigned levels_of(TypeId id) {
     const Type &type = type_of(id);
-    unsigned below =
-        is_primitive(type.kind) || is_sequence(type.kind) ? 0 : levels_of(element_of(id));
-    for (unsigned i = 0; is_sequence(type.kind) && i < type.slots.count; ++i) {
+    if (is_primitive(type.kind))
+        return 0;
+    if (!is_sequence(type.kind))
+        return 1 + levels_of(element_of(id));
+    unsigned below = 0;
+    for (unsigned i = 0; i < type.slots.count; ++i) {
         const unsigned levels = levels_of(catalogue.slots[type.slots.first + i].type);
         below = levels > below ? levels : below;
     }
-    return is_primitive(type.kind) ? 0 : 1 + below;
+    return 1 + below;
 }
 
 // Each makes an object of the IE that stands here, links it and returns where the next IE begins.
