@@ -32,9 +32,7 @@ protected:
     }
 };
 
-constexpr char api[] = "tarn_if_api";
-constexpr char internal[] = "tarn_if_internal_funcs";
-constexpr char conditional[] = "tarn_if_conditional_funcs";
+using namespace modules;
 
 std::string allocs(const char *module) {
     return std::string("velAllocMemoryWithIds ") + module;

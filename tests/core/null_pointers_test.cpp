@@ -11,9 +11,7 @@
 
 namespace {
 
-constexpr char api[] = "tarn_if_api";
-constexpr char internal[] = "tarn_if_internal_funcs";
-constexpr char conditional[] = "tarn_if_conditional_funcs";
+using namespace modules;
 
 // What any pointer points to. Followed as if it were an object, it leads nowhere.
 struct Target {

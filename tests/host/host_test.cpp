@@ -1,5 +1,6 @@
 // The Linux host: its memory under several threads, its lists, and what becomes of its reports.
 
+#include "blocks.h"
 #include "pooling.h"
 #include "tarn_host.h"
 #include "vel_platform.h"
@@ -36,20 +37,6 @@ namespace {
 
 constexpr const char *kModule = "host_test";
 
-// All tests run in the checking mode as well.
-const char *const check = std::getenv("TARN_HOST_CHECK");
-const bool isChecked = check != nullptr && *check == '1';
-
-void *allocate(std::size_t size) {
-    void *block = nullptr;
-    velAllocMemoryWithIds(static_cast<uint32_t>(size), &block, kModule, 1);
-    return block;
-}
-
-void release(void *block) {
-    velFreeMemoryWithIds(&block, kModule, 2);
-}
-
 void use_all_sizes() {
     std::vector<void *> blocks;
     for (std::size_t size = 8; size < 10000; size += 8) {
@@ -66,8 +53,7 @@ struct Filled {
 };
 
 Filled allocate_filled(std::size_t size, std::size_t value) {
-    const Filled filled{static_cast<unsigned char *>(allocate(size)), size,
-                        static_cast<unsigned char>(value)};
+    const Filled filled{allocate(size), size, static_cast<unsigned char>(value)};
     std::fill_n(filled.bytes, size, filled.value);
     return filled;
 }
@@ -156,7 +142,7 @@ TEST_F(HostMemory, TheReportCountsBlocksAndBytes) {
     const std::string report = live_report();
     if (isChecked) {
         EXPECT_EQ(report.find("tarn: 2 live blocks, 1000032 bytes\ntarn: live: block 0x"), 0U);
-        EXPECT_NE(report.find(" of 1000008 bytes, allocated in host_test:1\n"), std::string::npos);
+        EXPECT_NE(report.find(" of 1000008 bytes, allocated in maker:11\n"), std::string::npos);
     } else { // headers, and 24 rounded up to 32
         EXPECT_EQ(report, "tarn: 2 live blocks, 1000056 bytes\n");
     }
@@ -357,7 +343,7 @@ TEST_F(HostMemory, FreeingTwiceIsAFatalErrorAndChangesNothing) {
         release(block);
         EXPECT_EQ(errors.latest(), "");
         release(block);
-        EXPECT_EQ(errors.latest(), "host_test:2: the block to free is not allocated");
+        EXPECT_EQ(errors.latest(), "user:22: the block to free is not allocated");
 
         void *const one = allocate(size);
         void *const other = allocate(size);
@@ -386,7 +372,7 @@ TEST(HostFatalErrors, AHandlerMayThrowThroughTheHost) {
     };
     EXPECT_EQ(messageOf([] { velSwFatalError("", "tarn_if_api", 77); }),
               "seen tarn_if_api:77: a required pointer is null or a buffer is too small");
-    EXPECT_EQ(messageOf([] { release(nullptr); }), "seen host_test:2: the block to free is null");
+    EXPECT_EQ(messageOf([] { release(nullptr); }), "seen user:22: the block to free is null");
     tarnHostSetFatalErrorHandler(former.handler, former.context);
 }
 
@@ -461,7 +447,7 @@ void allocate_until_none_is_left(uint32_t size) {
 TEST(HostMemoryDeathTest, RunningOutOfMemoryEndsTheProgram) {
     for (const uint32_t size : {32U, 4124U, 100000U, 4294967295U}) {
         EXPECT_EXIT(allocate_until_none_is_left(size), testing::KilledBySignal(SIGABRT),
-                    "^tarn: fatal error in host_test:1: out of memory: no block of " +
+                    "^tarn: fatal error in maker:11: out of memory: no block of " +
                         std::to_string(size) + " bytes");
     }
 }

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr std::uint32_t untouched = 0xC0FFEE;
+using samples::untouched;
 
 class PackingTest : public LibraryTest {};
 
@@ -106,7 +106,6 @@ protected:
     // Packs a GtpTeid (10 bytes) whose object bears this tag.
     static void check(std::uint16_t tag, std::uint32_t value, std::size_t left,
                       std::uint32_t result, std::size_t expectedBytes) {
-        SCOPED_TRACE(testing::Message() << "tag " << tag << ", room " << left);
         TarnGtpTeidIe ie{};
         ie.ie.tag = tag;
         ie.value = value;
@@ -117,10 +116,11 @@ protected:
         expected.resize(expectedBytes);
         samples::Room room(left);
         std::uint32_t written = untouched;
-        EXPECT_EQ(TarnPackGtpTeidIe(&ie, room.data(), room.available(), &written), result);
-        EXPECT_EQ(written, expectedBytes);
-        EXPECT_EQ(room.first(expectedBytes), expected);
-        EXPECT_TRUE(room.is_untouched_behind(expectedBytes));
+        // All at once: it is asked for each tag there is, and what is told by itself takes time.
+        EXPECT_TRUE(TarnPackGtpTeidIe(&ie, room.data(), room.available(), &written) == result &&
+                    written == expectedBytes && room.first(expectedBytes) == expected &&
+                    room.is_untouched_behind(expectedBytes))
+            << "tag " << tag << ", room " << left << ": " << written << " bytes written";
     }
 };
 

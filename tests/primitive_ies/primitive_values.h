@@ -13,6 +13,8 @@
 
 namespace samples {
 
+// What a count holds that nobody has written yet.
+inline constexpr std::uint32_t untouched = 0xC0FFEE;
 inline constexpr Amount allAmounts[] = {Amount::least, Amount::most, Amount::full};
 
 // All primitive types, and those among them that are IEs.

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr std::uint32_t untouched = 0xC0FFEE;
+using samples::untouched;
 
 class UnpackingTest : public LibraryTest {
 protected:

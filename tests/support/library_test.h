@@ -6,6 +6,13 @@
 
 #include "support/test_host.h"
 
+// The modules that the library names to its host.
+namespace modules {
+constexpr char api[] = "tarn_if_api";
+constexpr char internal[] = "tarn_if_internal_funcs";
+constexpr char conditional[] = "tarn_if_conditional_funcs";
+} // namespace modules
+
 // Each test starts without reports and ends without live blocks. A test that provokes fatal errors
 // says so by expect_fatals(); any other ends without one.
 class LibraryTest : public testing::Test {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <regex>
+#include <sstream>
 
 namespace samples {
 
@@ -28,10 +28,14 @@ void add_digits(const std::string &line, std::vector<std::uint8_t> *bytes) {
 }
 
 void add_ie(const std::string &line, std::vector<Ie> *ies) {
-    static const std::regex comment(R"(# (\S+) (\[\d+\])(?: ([^-].*?))?(?: - .*)?$)");
-    std::smatch parts;
-    if (std::regex_search(line, parts, comment))
-        ies->push_back({parts[1], parts[2], parts[3]});
+    Ie ie;
+    std::istringstream comment(line.substr(std::min(line.size(), line.find('#'))));
+    if (std::string mark; comment >> mark >> ie.name >> ie.tag && ie.tag.starts_with('[')) {
+        std::getline(comment, ie.value);
+        ie.value.erase(std::min(ie.value.size(), ie.value.find(" - ")));
+        ie.value.erase(0, 1); // the blank before it
+        ies->push_back(ie);
+    }
 }
 
 void read_file(const std::filesystem::path &path, std::vector<Sample> *samples) {

@@ -3,22 +3,13 @@
 #include <set>
 #include <sstream>
 
+#include "outcome.h"
 #include "support/library_test.h"
-#include "tarn/commands.h"
 
 namespace {
 
-struct Outcome {
-    int status;
-    std::string out;
-    std::string err;
-};
-
 Outcome describe(const std::vector<std::string> &names, bool json = false) {
-    std::ostringstream out;
-    std::ostringstream err;
-    const int status = tool::describe(names, json, {out, err});
-    return {status, out.str(), err.str()};
+    return outcome_of([&](auto streams) { return tool::describe(names, json, streams); });
 }
 
 // Whether the text has a line with these words, blanks between words not counted.

@@ -2,8 +2,8 @@
 #include <fstream>
 #include <sstream>
 
+#include "outcome.h"
 #include "support/library_test.h"
-#include "tarn/commands.h"
 #include "tarn/json_encode.h"
 #include "temporary_directory.h"
 
@@ -188,7 +188,7 @@ TEST_F(Encode, TakesBytesWithBlanksBetween) {
 // ---- Reading the input --------------------------------------------------------------------------
 
 // Where each value begins, and what is wrong elsewhere.
-std::vector<std::string> read(std::string_view text) {
+std::vector<std::string> read_json(std::string_view text) {
     capture::Source source(view_of(text));
     tool::JsonReader reader(source);
     tool::JsonTree tree;
@@ -202,33 +202,33 @@ std::vector<std::string> read(std::string_view text) {
 
 TEST(JsonInput, TakesLinesIndentedObjectsAndArrays) {
     using Lines = std::vector<std::string>;
-    EXPECT_EQ(read("{}\n\n{}{}\n"), (Lines{"1", "3", "3"}));
-    EXPECT_EQ(read("\xEF\xBB\xBF{\n \"a\": {}\n}\n{}"), (Lines{"1", "4"}));
-    EXPECT_EQ(read("\n[{},\n{}]"), (Lines{"2", "3"}));
-    EXPECT_EQ(read(R"({"a}\"{": "]\\"}{})"), (Lines{"1", "1"}));
-    EXPECT_EQ(read("[]\n"), Lines{});
+    EXPECT_EQ(read_json("{}\n\n{}{}\n"), (Lines{"1", "3", "3"}));
+    EXPECT_EQ(read_json("\xEF\xBB\xBF{\n \"a\": {}\n}\n{}"), (Lines{"1", "4"}));
+    EXPECT_EQ(read_json("\n[{},\n{}]"), (Lines{"2", "3"}));
+    EXPECT_EQ(read_json(R"({"a}\"{": "]\\"}{})"), (Lines{"1", "1"}));
+    EXPECT_EQ(read_json("[]\n"), Lines{});
 }
 
 TEST(JsonInput, GoesOnBehindWhatIsNoJson) {
     using Lines = std::vector<std::string>;
-    EXPECT_EQ(read("{}\nx\n{}"), (Lines{"1", "2: expected { or [", "3"}));
-    EXPECT_EQ(read("[{}{}\n{}"), (Lines{"1", "1: expected , or ]", "2"}));
-    EXPECT_EQ(read("[{}"), (Lines{"1", "1: an array that does not end"}));
-    EXPECT_EQ(read("{\"a\": 1e400}\n{}"), (Lines{"1: number overflow parsing '1e400'", "2"}));
+    EXPECT_EQ(read_json("{}\nx\n{}"), (Lines{"1", "2: expected { or [", "3"}));
+    EXPECT_EQ(read_json("[{}{}\n{}"), (Lines{"1", "1: expected , or ]", "2"}));
+    EXPECT_EQ(read_json("[{}"), (Lines{"1", "1: an array that does not end"}));
+    EXPECT_EQ(read_json("{\"a\": 1e400}\n{}"), (Lines{"1: number overflow parsing '1e400'", "2"}));
     for (const char *text : {"{}\n{\n\n1}\n{}", "{}\n{\n\n{}", "{}\n{\n\n\"\x80\"}\n{}"}) {
-        const Lines lines = read(text);
+        const Lines lines = read_json(text);
         ASSERT_GE(lines.size(), 2U) << text;
         EXPECT_TRUE(lines[1].starts_with("4: ")) << lines[1];
     }
 }
 
 TEST(JsonInput, BoundsWhatOneMessageTakes) {
-    EXPECT_EQ(read("{\"a\":" + std::string(100, '[') + "\n{}"),
+    EXPECT_EQ(read_json("{\"a\":" + std::string(100, '[') + "\n{}"),
               (std::vector<std::string>{"1: nested deeper than any message", "2"}));
     std::string many = "{\"a\":[{}";
     for (int i = 0; i < 350000; ++i)
         many += ",{}";
-    EXPECT_EQ(read(many + "]}\n{}"), (std::vector<std::string>{"1", "2"}));
+    EXPECT_EQ(read_json(many + "]}\n{}"), (std::vector<std::string>{"1", "2"}));
 }
 
 // What --force writes, and what it leaves out and tells.
@@ -256,16 +256,15 @@ TEST_F(Encode, ForcesWhatNoReceiverTakes) {
         {R"({"message": null, "fault": {}, "bytes": "0048"})", "0048", ""},
     };
     for (const auto &[json, hex, told] : cases) {
-        std::ostringstream out;
-        std::ostringstream err;
-        const std::string path = temporary_file("forced");
-        std::ofstream(path) << json;
-        tool::encode({.files = {path}, .force = true}, {out, err});
-        std::string digits = out.str();
+        const tool::EncodeOptions options{.files = {temporary_file("forced")}, .force = true};
+        std::ofstream(options.files.front()) << json;
+        const Outcome run =
+            outcome_of([&](auto streams) { return tool::encode(options, streams); });
+        std::string digits = run.out;
         std::erase_if(digits, [](char c) { return c == ' ' || c == '\n'; });
         EXPECT_EQ(digits, hex) << json;
-        EXPECT_EQ(err.str().empty(), *told == 0) << err.str();
-        EXPECT_NE(err.str().find(told), std::string::npos) << err.str();
+        EXPECT_EQ(run.err.empty(), *told == 0) << run.err;
+        EXPECT_NE(run.err.find(told), std::string::npos) << run.err;
     }
 }
 

@@ -5,21 +5,14 @@
 #include <set>
 #include <sstream>
 
+#include "outcome.h"
 #include "support/library_test.h"
 #include "support/sample_files.h"
-#include "tarn/commands.h"
 #include "temporary_directory.h"
 
 namespace {
 
 using samples::Sample;
-
-// What a subcommand wrote and returned.
-struct Outcome {
-    int status;
-    std::string out;
-    std::string err;
-};
 
 std::string write_file(const std::string &content) {
     const std::string path = temporary_file("input");
@@ -28,20 +21,15 @@ std::string write_file(const std::string &content) {
 }
 
 Outcome decode(const std::string &text, bool json = false) {
-    std::ostringstream out;
-    std::ostringstream err;
     tool::DecodeOptions options;
     options.files = {write_file(text)};
     options.output = json ? tool::Output::json : tool::Output::tree;
-    const int status = tool::decode(options, {out, err});
-    return {status, out.str(), err.str()};
+    return outcome_of([&](auto streams) { return tool::decode(options, streams); });
 }
 
 Outcome encode(const std::string &text) {
-    std::ostringstream out;
-    std::ostringstream err;
-    const int status = tool::encode({.files = {write_file(text)}}, {out, err});
-    return {status, out.str(), err.str()};
+    const tool::EncodeOptions options{.files = {write_file(text)}};
+    return outcome_of([&](auto streams) { return tool::encode(options, streams); });
 }
 
 std::vector<std::string> lines_of(const std::string &text) {
