@@ -21,8 +21,6 @@ set(tarn_package ${CMAKE_INSTALL_LIBDIR}/cmake/tarn)
 # tarn_installs(target): a library, and tarn::<its export name> in the CMake package.
 function(tarn_installs target)
     install(TARGETS ${target} EXPORT tarn INCLUDES DESTINATION ${tarn_headers})
-    # Libraries of ours that it links lie beside it.
-    set_target_properties(${target} PROPERTIES INSTALL_RPATH $ORIGIN)
 endfunction()
 
 # tarn_installs_program(target): it finds our libraries wherever the two directories lie together.

@@ -143,7 +143,7 @@ void note_objects(const VelDllHead *list) {
         if (TarnIsComplexType(ie->tag) != 0)
             note_objects(protocol::children_of(ie));
         else
-            visit_value(*fuzz::type_of(ie->tag),
+            visit_value(*protocol::type_by_tag(ie->tag),
                         static_cast<std::uint8_t *>(protocol::value_of(ie)), note_value);
     }
     note("end", 0);
@@ -200,7 +200,7 @@ void find_headers(const Bytes &bytes, std::size_t from, std::size_t to,
                   std::vector<std::size_t> *found) {
     while (from + 6 <= to) {
         found->push_back(from);
-        const Type *type = fuzz::type_of(std::uint32_t(bytes[from] << 8 | bytes[from + 1]));
+        const Type *type = protocol::type_by_tag(std::uint32_t(bytes[from] << 8 | bytes[from + 1]));
         const std::size_t end = from + 6 + std::size_t(bytes[from + 4]) * 256 + bytes[from + 5];
         if (type == nullptr || end > to)
             return;

@@ -1,7 +1,5 @@
 #include "walks.h"
 
-#include <array>
-
 #include "support/samples.h"
 
 namespace fuzz {
@@ -24,7 +22,7 @@ bool is_same_run(const std::uint8_t *packed, const std::uint8_t *bytes, std::siz
 std::size_t same_tlv(const std::uint8_t *packed, const std::uint8_t *bytes, std::size_t size) {
     if (size < headerSize || std::memcmp(packed, bytes, tagSize) != 0)
         return 0;
-    const Type *type = type_of(load(packed, tagSize));
+    const Type *type = protocol::type_by_tag(load(packed, tagSize));
     const std::size_t length = load(packed + tagSize, 4);
     if (type == nullptr || length > size - headerSize)
         return 0;
@@ -53,18 +51,6 @@ bool is_same_run(const std::uint8_t *packed, const std::uint8_t *bytes, std::siz
 
 } // namespace
 
-const Type *type_of(std::uint32_t tag) {
-    constexpr std::size_t tags = 256; // more than the protocol has
-    static const std::array<const Type *, tags> all = [] {
-        std::array<const Type *, tags> made{};
-        for (const Type *type : protocol::types())
-            if (type->tag != 0)
-                made.at(type->tag) = type;
-        return made;
-    }();
-    return tag < tags ? all[tag] : nullptr;
-}
-
 std::vector<TarnIe *> members_of(const VelDllHead *list) {
     std::vector<TarnIe *> all;
     for (VelDllNode *node = list->first; node != nullptr; node = node->next)
@@ -88,7 +74,7 @@ Block pack(const Type &type, const void *ie) {
 
 bool all_are_valid(const VelDllHead *list) {
     for (const TarnIe *ie : members_of(list)) {
-        const Type *type = type_of(ie->tag);
+        const Type *type = protocol::type_by_tag(ie->tag);
         if (type == nullptr || type->isIeValid == nullptr || type->isIeValid(ie) == 0)
             return false;
         if (type->is_composite() && !all_are_valid(protocol::children_of(ie)))

@@ -7,9 +7,6 @@
 
 namespace fuzz {
 
-// The type with the tag, or null; as protocol::type_by_tag, without a search.
-const protocol::Type *type_of(std::uint32_t tag);
-
 // The IE objects that a list holds, in its order.
 std::vector<TarnIe *> members_of(const VelDllHead *list);
 

@@ -1,23 +1,17 @@
 #!/usr/bin/env bash
-# Builds what is installed in a copy of the tree somewhere else, and compares it with build/release,
-# bit by bit.
+# Builds the Debian packages, and compares what they are made of with build/release, bit by bit: the
+# same sources, built in another directory. The flags are those of build/release, Debian's left out.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-targets=(tarn tarn_host tarn_info tarn_tool)
-copy=$PWD/build/reproducible/a/copy/elsewhere
 
-rm -rf build/reproducible
-mkdir -p "$copy"
-git ls-files -z --cached --others --exclude-standard | xargs -0 cp --parents -t "$copy"
 [ -f build/release/CMakeCache.txt ] || cmake --preset release -DTARN_TESTS=OFF >/dev/null
-(cd "$copy" && cmake --preset release -DTARN_TESTS=OFF -DTARN_EXAMPLES=OFF >/dev/null)
-for tree in . "$copy"; do
-    cmake --build "$tree/build/release" --target "${targets[@]}" -- --quiet
-done
+cmake --build build/release --target tarn tarn_host tarn_info tarn_tool -- --quiet
+DEB_CPPFLAGS_SET='' DEB_CFLAGS_SET='' DEB_CXXFLAGS_SET='' DEB_LDFLAGS_SET='' scripts/debian.sh
 
+other=$(echo build/packages/libtarn/obj-*)
 different=0
 for file in src/libtarn.so.0 host/libtarn_host.so.0 info/libtarn_info.so.0 tools/tarn/tarn; do
-    if cmp "build/release/$file" "$copy/build/release/$file"; then
+    if cmp "build/release/$file" "$other/$file"; then
         echo "$file: the same $(stat -c %s "build/release/$file") bytes"
     else
         different=1

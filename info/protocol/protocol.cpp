@@ -1,6 +1,7 @@
 #include "protocol/protocol.h"
 
 #include <algorithm>
+#include <array>
 #include <deque>
 #include <map>
 #include <string>
@@ -329,10 +330,14 @@ const std::vector<const Message *> &messages() {
 }
 
 const Type *type_by_tag(std::uint32_t tag) {
-    for (const Type *type : types())
-        if (tag != 0 && type->tag == tag)
-            return type;
-    return nullptr;
+    static const auto all = [] {
+        std::array<const Type *, 256> made{}; // more than the protocol has
+        for (const Type *type : types())
+            if (type->tag != 0)
+                made.at(type->tag) = type;
+        return made;
+    }();
+    return tag < all.size() ? all[tag] : nullptr;
 }
 
 const Type *type_by_name(std::string_view name) {
