@@ -35,7 +35,7 @@ if(TARN_SANITIZE)
 endif()
 if(TARN_COVERAGE)
     # Atomic, since some tests run threads: counters that lose an update contradict each other.
-    add_compile_options(--coverage -fprofile-update=atomic -O0 -g)
+    add_compile_options(--coverage -fprofile-update=atomic -O0 -g0)
     add_link_options(--coverage)
 endif()
 

@@ -20,8 +20,8 @@
 #   python     the Python module, its examples and its guide
 #   install    what is installed, used by pkg-config and in three ways by CMake
 #   bare       the static library for bare metal, and what a program takes of it
-#   packages   the Debian packages, judged by lintian
-#   reproducible  two builds in different places, bit by bit
+#   packages   the Debian packages, judged by lintian; built in another place, they hold what
+#              build/release does, bit by bit
 #   wireshark  Wireshark's plugin against the tool, and the tool's captures and output in the programs
 #              that read them
 #   soak       library and host under load for some seconds
@@ -29,8 +29,10 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 quick=(gcc sanitizers format)
-all=(gcc sanitizers format speed coverage tidy threads fuzz armhf s390x abi python
-    install bare packages reproducible wireshark soak)
+all=(gcc sanitizers speed coverage packages install python wireshark soak
+    format threads armhf s390x abi bare fuzz tidy)
+# Those that do not touch build/release: one of them runs beside one of the others.
+own_builds="format threads armhf s390x abi bare fuzz tidy"
 
 # The groups of scripts/packages.sh that a stage needs; `test` where none is named.
 declare -A needs=([format]=format [tidy]=tidy [threads]="test clang" [fuzz]="test clang"
@@ -73,9 +75,7 @@ stage_abi() { scripts/abi.sh; }
 stage_python() { scripts/python.sh; }
 stage_install() { scripts/install.sh; }
 stage_bare() { scripts/bare_metal.sh; }
-# Unoptimised: what is packed and how is the question, and the optimised programs are checked elsewhere.
-stage_packages() { DEB_BUILD_OPTIONS=noopt scripts/debian.sh; }
-stage_reproducible() { scripts/reproducible.sh; }
+stage_packages() { scripts/reproducible.sh; }
 stage_wireshark() {
     scripts/wireshark.sh
     ctest --preset release --progress -L others_programs
@@ -99,34 +99,59 @@ all) set -- "${all[@]}" && again=no ;;
 '') set -- "${quick[@]}" ;;
 esac
 groups=()
+on_release=()
+apart=()
 for stage in "$@"; do
     if ! declare -F "stage_$stage" >/dev/null; then
         echo "no stage '$stage'; there are: ${all[*]}" >&2
         exit 2
     fi
     groups+=(${needs[$stage]:-test})
+    case " $own_builds " in
+    *" $stage "*) apart+=("$stage") ;;
+    *) on_release+=("$stage") ;;
+    esac
 done
 scripts/packages.sh "${groups[@]}"
 
-passed=0
+export CMAKE_BUILD_PARALLEL_LEVEL=${CMAKE_BUILD_PARALLEL_LEVEL:-$(nproc)}
+marks=build/passed # for each stage, the sources that it has passed on
+mkdir -p $marks
+: >$marks/results
 TIMEFORMAT='==== %0R s, %0U s of processor time'
-for stage in "$@"; do
-    if [ $again = no ] && [ "$(cat "build/passed/$stage" 2>/dev/null)" = "$(sources)" ]; then
-        echo "==== $stage has passed on these sources"
-        passed=$((passed + 1))
-        continue
-    fi
-    echo "==== $stage"
-    # In a shell of its own: a function called in a condition would go on after a failed command.
-    if ! time bash -euo pipefail -c "$(declare -f "stage_$stage"); stage_$stage"; then
-        echo "==== $stage failed" >&2
-        echo "$passed passed, 1 failed"
-        exit 1
-    fi
-    mkdir -p build/passed
-    sources >"build/passed/$stage"
-    echo "==== $stage passed"
-    passed=$((passed + 1))
-done
+
+# run STAGE...: one after the other. What a stage prints is shown when it has ended.
+run() {
+    local stage end
+    for stage in "$@"; do
+        end=passed
+        if [ $again = no ] && [ "$(cat "$marks/$stage" 2>/dev/null)" = "$(sources)" ]; then
+            echo "on these sources, before" >"$marks/$stage.log"
+        # In a shell of its own: a function called in a condition would go on after a failed command.
+        elif { time bash -euo pipefail -c "$(declare -f "stage_$stage"); stage_$stage"; } \
+            >"$marks/$stage.log" 2>&1; then
+            sources >"$marks/$stage"
+        else
+            end=failed
+        fi
+        echo "$stage $end" >>$marks/results
+        flock $marks cat <(echo "==== $stage") "$marks/$stage.log" <(echo "==== $stage $end")
+    done
+}
+
+# Two at a time: none keeps all processors busy from its beginning to its end.
+trap 'kill 0' INT
+if [ "${on_release[0]:-}" = gcc ]; then
+    run gcc
+    on_release=("${on_release[@]:1}")
+fi
+if ! grep -q failed $marks/results; then
+    run "${apart[@]}" &
+    run "${on_release[@]}"
+    wait
+fi
+passed=$(grep -c passed $marks/results || true)
 echo "all in $SECONDS s"
-echo "$passed passed, 0 failed"
+grep failed $marks/results || true
+echo "$passed passed, $(grep -c failed $marks/results || true) failed"
+[ "$passed" -eq $# ]
