@@ -6,7 +6,8 @@ cd "$(dirname "$0")/.."
 build=build/threads
 # The codec in its compact form, quicker to compile: it shares nothing between threads but constants.
 cmake -S . -B $build -G Ninja -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \
-    -DCMAKE_BUILD_TYPE=Debug -DCMAKE_C_FLAGS_DEBUG="-O1 -g" -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g" \
+    -DCMAKE_BUILD_TYPE=Debug -DCMAKE_C_FLAGS_DEBUG="-O1 -gline-tables-only" \
+    -DCMAKE_CXX_FLAGS_DEBUG="-O1 -gline-tables-only" \
     -DTARN_SANITIZE=thread -DTARN_COMPACT=ON -DTARN_EXAMPLES=OFF >/dev/null
 cmake --build $build --target threads_test host_test soak -- --quiet
 
