@@ -61,7 +61,7 @@ constexpr Words make_words() {
 #include "forms.def"
     return w;
 }
-constexpr Words words = make_words();
+constexpr Words allWords = make_words();
 
 constexpr const char *slotNames[] = {
 #define PRIMITIVE_SLOT(owner_, child_, ...)       #child_,
@@ -135,7 +135,7 @@ constexpr void add_slots(Facts &f) {
     }
     for (unsigned i = 0; i < tarn::memberCapacity; ++i) {
         const tarn::Member &row = rows.members[i];
-        f.members[i] = {words.types[row.type].name,
+        f.members[i] = {allWords.types[row.type].name,
                         &facts.types[row.type],
                         TarnInfoMandatory,
                         nullptr,
@@ -147,13 +147,13 @@ constexpr void add_slots(Facts &f) {
 constexpr void add_type(Facts &f, unsigned id) {
     const tarn::Type &row = rows.types[id];
     TarnInfoType &type = f.types[id];
-    const TypeWords &own = words.types[id];
+    const TypeWords &own = allWords.types[id];
     type.name = own.name;
     type.term = own.term;
     type.tag = id <= tarn::lastTag ? id : 0;
     type.shape = shape_of(row.kind);
-    type.form = words.forms[id];
-    type.secrecy = words.secrecies[id];
+    type.form = allWords.forms[id];
+    type.secrecy = allWords.secrecies[id];
     type.hasIe = row.hasIe;
     type.width = type.shape == TarnInfoNumber ? row.fixedSize : 0;
     type.least = row.least;
@@ -174,7 +174,7 @@ constexpr void add_type(Facts &f, unsigned id) {
         type.stride = row.array.stride;
     }
     if (row.kind == Kind::compositeList) {
-        f.elements[id] = {words.types[row.array.item].name,
+        f.elements[id] = {allWords.types[row.array.item].name,
                           type.item,
                           TarnInfoRepeated,
                           nullptr,
@@ -189,13 +189,13 @@ constexpr void add_messages(Facts &f) {
     for (unsigned id = 0; id < tarn::messageCount; ++id) {
         const tarn::Message &row = rows.messages[id];
         if (row.slots.count != 0)
-            f.messages[id] = {words.messageNames[id],
-                              words.messageTerms[id],
+            f.messages[id] = {allWords.messageNames[id],
+                              allWords.messageTerms[id],
                               id,
                               row.appendToken,
                               row.validityToken,
                               row.packToken,
-                              std::uint32_t(words.messageSizes[id]),
+                              std::uint32_t(allWords.messageSizes[id]),
                               largest_of(row.slots),
                               &facts.slots[row.slots.first],
                               row.slots.count};
@@ -218,7 +218,7 @@ constexpr Facts make_facts() {
     Facts f{};
     add_slots(f);
     for (unsigned id = 1; id < tarn::typeCount; ++id)
-        if (words.types[id].name != nullptr)
+        if (allWords.types[id].name != nullptr)
             add_type(f, id);
     add_messages(f);
 #define CONDITION_FOR_MSG(name_, predicate_, ie_, values_, counts_, meaning_)                      \
@@ -248,14 +248,14 @@ struct Pointers {
 constexpr auto list_types() {
     Pointers<TarnInfoType, tarn::typeCount> list{};
     for (unsigned id = 0; id < tarn::typeCount; ++id)
-        if (words.types[id].name != nullptr)
+        if (allWords.types[id].name != nullptr)
             list.all[list.count++] = &facts.types[id];
     return list;
 }
 constexpr auto list_messages() {
     Pointers<TarnInfoMessage, tarn::messageCount> list{};
     for (unsigned id = 0; id < tarn::messageCount; ++id)
-        if (words.messageNames[id] != nullptr)
+        if (allWords.messageNames[id] != nullptr)
             list.all[list.count++] = &facts.messages[id];
     return list;
 }
