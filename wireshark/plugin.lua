@@ -247,28 +247,39 @@ end
 forget_links()
 
 -- Two messages of one packet begin at different bytes.
+local mostBytes = 2 ^ 20
+
 local function place_of(view, pinfo)
-  return pinfo.number * 2 ^ 20 + view.tvb:offset() + view.start
+  return pinfo.number * mostBytes + view.tvb:offset() + view.start
 end
 
--- Both ends, the same whichever of them sends.
+-- Both ends, the same whichever of them sends: their ports as one number, and the address at the
+-- greater port, which is that of who connected; both addresses where the ports are equal.
 local function ends_of(pinfo)
-  local from, to = tostring(pinfo.src), tostring(pinfo.dst)
   local port, otherPort = pinfo.src_port, pinfo.dst_port
-  if from > to or (from == to and port > otherPort) then
-    from, to, port, otherPort = to, from, otherPort, port
+  if port > otherPort then
+    return port * 65536 + otherPort, tostring(pinfo.src)
+  elseif port < otherPort then
+    return otherPort * 65536 + port, tostring(pinfo.dst)
   end
-  return from .. " " .. to .. " " .. port * 65536 + otherPort
+  local from, to = tostring(pinfo.src), tostring(pinfo.dst)
+  return port, from < to and from .. " " .. to or to .. " " .. from
 end
 
--- The ends, and the numbers that the procedure goes by, as they stand in the message.
-local function key_of(procedure, result, view, ends)
-  local key = ends
+-- The addresses, and the numbers that the procedure goes by, as they stand in the message.
+local function key_of(procedure, result, view, addresses)
+  local key = addresses
   for _, type in ipairs(procedure.types) do
     local at = place_in(result.root, type)
     key = key .. view.bytes:sub(at + 1, at + type.size)
   end
   return key
+end
+
+local function waiting_at(procedure, ports)
+  local waiting = procedure.waiting[ports] or {}
+  procedure.waiting[ports] = waiting
+  return waiting
 end
 
 -- Requests of one key wait in a chain, the oldest one first: a capture may lack many responses.
@@ -291,21 +302,22 @@ local function take_request(waiting, key)
 end
 
 local function link_message(result, view, pinfo)
-  local place, ends = place_of(view, pinfo), ends_of(pinfo)
-  local procedure = asResponse[result.message]
-  local link = procedure and
-    take_request(procedure.waiting, key_of(procedure, result, view, ends))
-  if link then
-    links.response[link] = pinfo.number
-    links.seconds[link] = pinfo.rel_ts - links.seconds[link]
-    links.answered[place] = link
+  local place, seconds, ports, addresses = place_of(view, pinfo), pinfo.rel_ts, ends_of(pinfo)
+  local packet = math.floor(place / mostBytes)
+  local asked, answered = asRequest[result.message], asResponse[result.message]
+  if answered then
+    local key = key_of(answered, result, view, addresses)
+    local link = take_request(waiting_at(answered, ports), key)
+    if link then
+      links.response[link], links.answered[place] = packet, link
+      links.seconds[link] = seconds - links.seconds[link]
+    end
   end
-  procedure = asRequest[result.message]
-  if procedure then
-    link = links.count + 1
+  if asked then
+    local link = links.count + 1
     links.count, links.asked[place] = link, link
-    links.request[link], links.seconds[link] = pinfo.number, pinfo.rel_ts
-    add_request(procedure.waiting, key_of(procedure, result, view, ends), link)
+    links.request[link], links.seconds[link] = packet, seconds
+    add_request(waiting_at(asked, ports), key_of(asked, result, view, addresses), link)
   end
 end
 
@@ -338,16 +350,19 @@ local srntiType, ueType = typesByName.Srnti, typesByName.AcUeId
 
 -- "UeContextAccept, S-RNTI 0x12001, UE 7001, valid"
 local function summary(result, bytes)
-  local text = result.message and result.message.name or "No known message"
-  local srnti, ue = place_in(result.root, srntiType), place_in(result.root, ueType)
-  if srnti then
-    srnti = number_at(bytes, srnti + headerSize, srntiType.width)
-    text = string.format("%s, S-RNTI 0x%x", text, srnti)
+  local root, message, verdict = result.root, result.message, result.verdict
+  local name = message and message.name or "No known message"
+  local srnti, ue = place_in(root, srntiType), place_in(root, ueType)
+  srnti = srnti and number_at(bytes, srnti + headerSize, srntiType.width)
+  ue = ue and number_at(bytes, ue + headerSize, ueType.width)
+  if srnti and ue then
+    return string.format("%s, S-RNTI 0x%x, UE %d, %s", name, srnti, ue, verdict)
+  elseif srnti then
+    return string.format("%s, S-RNTI 0x%x, %s", name, srnti, verdict)
+  elseif ue then
+    return string.format("%s, UE %d, %s", name, ue, verdict)
   end
-  if ue then
-    text = string.format("%s, UE %d", text, number_at(bytes, ue + headerSize, ueType.width))
-  end
-  return text .. ", " .. result.verdict
+  return name .. ", " .. verdict
 end
 
 local function add_contents(item, result, view, pinfo)
@@ -366,8 +381,8 @@ local function add_contents(item, result, view, pinfo)
 end
 
 -- For the list of expert information alone, without an item of their own.
-local function list_finding(item, found, kind)
-  item:add_proto_expert_info(kind, words(found))
+local function list_finding(tree, found, kind)
+  tree:add_proto_expert_info(kind, words(found))
 end
 
 local function add_findings(add, item, result, view)
@@ -392,27 +407,27 @@ end
 -- would take most of the time. Findings are always wanted, by the list of expert information; and
 -- so are NAS messages.
 local function add_message(tree, result, view, pinfo, text)
-  local isWanted = tree.visible or tree:referenced(ownDissector)
-  local nasAt = not isWanted and dissectsNas and place_in(result.root, nasType)
-  if not isWanted and not nasAt and #result.faults == 0 and #result.notes == 0 then
+  if tree.visible or tree:referenced(ownDissector) then
+    local item = tree:add(tarn, range_of(view, 0, #view.bytes), "Tarn Signalling: " .. text)
+    add_contents(item, result, view, pinfo)
+    add_findings(add_finding, item, result, view)
     return
   end
-  local item = tree:add(tarn, range_of(view, 0, #view.bytes), "Tarn Signalling: " .. text)
-  if isWanted then
-    add_contents(item, result, view, pinfo)
-  elseif nasAt then
-    add_nas(item, nasAt, view, pinfo)
+  local nasAt = dissectsNas and place_in(result.root, nasType)
+  if nasAt then
+    add_nas(tree, nasAt, view, pinfo)
   end
-  add_findings(isWanted and add_finding or list_finding, item, result, view)
+  add_findings(list_finding, tree, result, view)
 end
 
--- Returns the info column, for a fence to be put behind all that belongs to the message.
 local function show_in_columns(text, pinfo)
   local columns = pinfo.cols
-  local info = columns.info
-  columns.protocol = "TARN"
-  info:set(text .. "  ")
-  return info
+  columns.protocol, columns.info = "TARN", text .. "  "
+end
+
+-- Keeps what the info column says of a message where more may follow in the packet.
+local function keep_info(pinfo)
+  pinfo.cols.info:fence()
 end
 
 -- `isFramed` tells that the message's length stands in front of it.
@@ -420,13 +435,11 @@ local function dissect_message(tvb, start, bytes, pinfo, tree, isFramed)
   local view = { tvb = tvb, start = start, bytes = bytes, isFramed = isFramed }
   local result = read_message(view.bytes)
   local text = summary(result, bytes)
-  local info = show_in_columns(text, pinfo)
+  show_in_columns(text, pinfo)
   if is_paired(result.message) and not pinfo.visited and result.verdict ~= "refused" then
     link_message(result, view, pinfo)
   end
   add_message(tree, result, view, pinfo, text)
-  info:fence()
-  return result
 end
 
 -- ---- Streams -----------------------------------------------------------------------------------
@@ -459,7 +472,8 @@ local function skip(tvb, at, size, pinfo, tree)
   local item = tree:add(tarn, tvb(at, size), "Tarn Signalling: no message")
   local text = counted(size, "byte") .. " that " .. (size == 1 and "is" or "are") .. " no message"
   item:add(fields.skipped, tvb(at, size)):add_proto_expert_info(experts.skipped, text)
-  show_in_columns("[" .. text .. "]", pinfo):fence()
+  show_in_columns("[" .. text .. "]", pinfo)
+  keep_info(pinfo)
 end
 
 -- Asks for more of the stream. Returns false if there is no more to be had.
@@ -489,6 +503,7 @@ local function dissect_frame(tvb, bytes, at, pinfo, tree)
   size = math.min(size, left - lengthSize)
   local start = at + lengthSize
   dissect_message(tvb, start, bytes:sub(start + 1, start + size), pinfo, tree, true)
+  keep_info(pinfo)
   return start + size
 end
 
@@ -500,6 +515,7 @@ local function dissect_unframed(tvb, bytes, pinfo, tree)
     size = #bytes
   end
   dissect_message(tvb, 0, bytes:sub(1, size), pinfo, tree)
+  keep_info(pinfo)
   return size
 end
 
@@ -531,6 +547,7 @@ function tarn.dissector(tvb, pinfo, tree)
     return dissect_stream(tvb, bytes, pinfo, tree)
   end
   dissect_message(tvb, 0, bytes, pinfo, tree)
+  keep_info(pinfo)
   return #bytes
 end
 
@@ -557,8 +574,17 @@ local function find_stream(tvb, pinfo, tree)
   return isFound
 end
 
+-- Other chunks may follow in the packet.
+local function find_chunk(tvb, pinfo, tree)
+  local isFound = find_datagram(tvb, pinfo, tree)
+  if isFound then
+    keep_info(pinfo)
+  end
+  return isFound
+end
+
 tarn:register_heuristic("udp", find_datagram)
-tarn:register_heuristic("sctp", find_datagram)
+tarn:register_heuristic("sctp", find_chunk)
 tarn:register_heuristic("tcp", find_stream)
 
 local portTables = {}
