@@ -1,4 +1,4 @@
-// IE objects and message objects: creating, releasing and resetting them.
+// IE objects and message objects: their parts, and creating them.
 #ifndef TARN_OBJECTS_H
 #define TARN_OBJECTS_H
 
@@ -35,8 +35,10 @@ static_assert(markOffset + sizeof(Mark) == sizeof(TarnIe) && sizeof(void *) <= s
 
 // Returns a new IE object: unlinked, not yet extracted, with its value or children still to be set.
 TARN_INLINE TarnIe *create_head(TypeId id, Caller caller) {
-    auto *ie =
-        static_cast<TarnIe *>(allocate(uint32_t(sizeof(TarnIe)) + type_of(id).valueSize, caller));
+    void *block = nullptr;
+    velAllocMemoryWithIds(uint32_t(sizeof(TarnIe)) + type_of(id).valueSize, &block, caller.module,
+                          caller.line);
+    auto *ie = static_cast<TarnIe *>(block);
     xVelDllInitNode(&ie->node, caller.module, caller.line);
     const Mark mark{id};
     memcpy(at_offset(ie, markOffset), &mark, sizeof mark);
@@ -52,7 +54,9 @@ TARN_INLINE TarnIe *create_composite(TypeId id, Caller caller) {
 
 // Returns a new message object without any IE.
 TARN_INLINE TarnMsg *create_msg(MessageNumber id, Caller caller) {
-    auto *msg = static_cast<TarnMsg *>(allocate(sizeof(TarnMsg), caller));
+    void *block = nullptr;
+    velAllocMemoryWithIds(sizeof(TarnMsg), &block, caller.module, caller.line);
+    auto *msg = static_cast<TarnMsg *>(block);
     xVelDllInitHead(&msg->ies, 0, caller.module, caller.line);
     msg->messageId = id;
     return msg;
@@ -66,19 +70,6 @@ TARN_INLINE uint32_t link_message_id(TarnMsg *msg, TarnMessageId id) {
     link_ie(&msg->ies, ie, caller);
     return 1;
 }
-
-// The same as an operation of the public interface, which belongs to the codecs.
-uint32_t append_message_id(TarnMsg *msg, TarnMessageId value);
-
-// Releases the IE object and all below it. It must not be linked any more.
-void delete_ie(TarnIe *ie);
-
-// Releases the message object and all its IEs.
-void delete_msg(TarnMsg *msg);
-
-// Lets extracts begin anew, here and in all below.
-void reset_ie(TarnIe *ie);
-void reset_all(VelDllHead *list);
 
 } // namespace tarn
 

@@ -11,15 +11,24 @@
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
-// Who is calling the platform: one of the source modules below, and a line.
+// The names of the source modules. Built for speed, each call of the platform fetches one anew
+// (volatile): kept in a register, it would have every function save and restore that register.
+#ifdef TARN_BUILT_FOR_SPEED
+#define TARN_MODULE [[gnu::section(".data.rel.ro")]] inline const char *const volatile
+using Module = const char *const volatile &;
+#else
+#define TARN_MODULE inline const char *const
+using Module = const char *;
+#endif
+TARN_MODULE moduleApi = "tarn_if_api";
+TARN_MODULE moduleInternal = "tarn_if_internal_funcs";
+TARN_MODULE moduleConditional = "tarn_if_conditional_funcs";
+
+// Who is calling the platform: one of the modules, and a line.
 struct Caller {
-    const char *module;
+    Module module;
     uint32_t line;
 };
-
-inline constexpr char moduleApi[] = "tarn_if_api";
-inline constexpr char moduleInternal[] = "tarn_if_internal_funcs";
-inline constexpr char moduleConditional[] = "tarn_if_conditional_funcs";
 
 #define TARN_CALLER(module_) (::tarn::Caller{::tarn::module_, __LINE__})
 
@@ -35,17 +44,6 @@ TARN_INLINE bool any_null(Caller caller, const Pointers *...pointers) {
         return false;
     report_nulls(caller, pointers...);
     return true;
-}
-
-// The variable is null when the host gets it.
-TARN_INLINE void *allocate(uint32_t size, Caller caller) {
-    void *block = nullptr;
-    velAllocMemoryWithIds(size, &block, caller.module, caller.line);
-    return block;
-}
-
-TARN_INLINE void release(void *block, Caller caller) {
-    velFreeMemoryWithIds(&block, caller.module, caller.line);
 }
 
 // The head of any IE object, or null for a null one: every type of IE object begins with it.

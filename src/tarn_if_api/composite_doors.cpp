@@ -16,7 +16,8 @@ using namespace tarn;
     }                                                                                              \
     uint32_t TarnExtract##child_##IeFrom##owner_##Ie(Tarn##owner_##Ie *ie,                         \
                                                      Tarn##child_##Ie **child) {                   \
-        return borrow(head_of(ie), reinterpret_cast<TarnIe **>(child), asBuilt<type##child_>);     \
+        return borrow(head_of(ie), reinterpret_cast<TarnIe **>(child), asBuilt<type##child_>,      \
+                      __LINE__);                                                                   \
     }
 
 #define SEQUENCE(name_, ...) NEW_DOOR(name_)
@@ -28,7 +29,7 @@ using namespace tarn;
         return append(head_of(ie), value, asBuilt<type##child_>);                                  \
     }                                                                                              \
     uint32_t TarnExtract##child_##From##owner_##Ie(Tarn##owner_##Ie *ie, Tarn##child_ *value) {    \
-        return extract(head_of(ie), value, asBuilt<type##child_>);                                 \
+        return extract(head_of(ie), value, asBuilt<type##child_>, __LINE__);                       \
     }
 #define COMPOSITE_SLOT(owner_, child_, ...) COMPOSITE_CHILD_DOORS(owner_, child_)
 #include "catalogue/composite_ies.def"

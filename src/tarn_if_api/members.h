@@ -45,11 +45,13 @@ template <class Owner>
 // ---- Extract -----------------------------------------------------------------------------------
 
 // Takes the first IE of the tag whose history is still 0 and sets it to 1, so repeated calls walk
-// repeated IEs. Only direct members are looked at, never their children.
-TARN_INLINE TarnIe *take_next(VelDllHead *list, uint16_t tag) {
-    for (TarnIe *ie = first_ie(list, TARN_CALLER(moduleApi)); ie != nullptr;
-         ie = next_ie(list, ie, TARN_CALLER(moduleApi))) {
-        if (ie->tag == tag && ie->extractHistory == 0) {
+// repeated IEs. Only direct members are looked at, never their children. What is needed behind a
+// call of the platform stays in memory (volatile): registers would have to be saved as well.
+TARN_INLINE TarnIe *take_next(VelDllHead *members, uint16_t tag, Caller caller) {
+    VelDllHead *volatile list = members;
+    for (TarnIe *ie = first_ie(members, caller); ie != nullptr; ie = next_ie(list, ie, caller)) {
+        // The history is 0 or 1: half of it tells, and is compared without fetching it first.
+        if (ie->tag == tag && uint16_t(ie->extractHistory) == 0) [[likely]] {
             ie->extractHistory = 1;
             return ie;
         }
@@ -57,23 +59,33 @@ TARN_INLINE TarnIe *take_next(VelDllHead *list, uint16_t tag) {
     return nullptr;
 }
 
+// The line is that of the row that the operation belongs to.
 template <class Owner, class Id>
-[[gnu::noinline]] static uint32_t extract(Owner *owner, void *value, Id id) {
-    if (any_null(TARN_CALLER(moduleApi), owner, value))
+TARN_SHARED static uint32_t extract(Owner *owner, void *value, Id id, uint32_t line) {
+    const Caller caller{moduleApi, line};
+    if (any_null(caller, owner, value))
         return 0;
-    const TarnIe *ie = take_next(list_of(owner), id);
+    void *volatile to = value;
+    const TarnIe *ie = take_next(list_of(owner), id, caller);
     if (ie == nullptr)
         return 0;
-    copy_value(type_of(id), value, value_of(ie));
+    copy_value(type_of(id), to, value_of(ie));
     return 1;
 }
 
 template <class Owner, class Id>
-[[gnu::noinline]] static uint32_t borrow(Owner *owner, TarnIe **child, Id id) {
-    if (any_null(TARN_CALLER(moduleApi), owner, child))
+TARN_SHARED static uint32_t borrow(Owner *owner, TarnIe **child, Id id, uint32_t line) {
+    const Caller caller{moduleApi, line};
+    if (any_null(caller, owner, child))
         return 0;
-    *child = take_next(list_of(owner), id);
-    return *child != nullptr;
+    TarnIe **volatile to = child;
+    TarnIe *const ie = take_next(list_of(owner), id, caller);
+    if (ie == nullptr) {
+        *to = nullptr;
+        return 0;
+    }
+    *to = ie;
+    return 1;
 }
 
 } // namespace tarn

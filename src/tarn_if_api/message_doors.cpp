@@ -21,7 +21,7 @@ TARN_SHARED TarnMsg *new_msg(Id id) {
 
 #define PRIMITIVE_EXTRACT_DOOR(owner_, child_)                                                     \
     uint32_t TarnExtract##child_##From##owner_##Msg(TarnMsg *msg, Tarn##child_ *value) {           \
-        return extract(msg, value, asBuilt<type##child_>);                                         \
+        return extract(msg, value, asBuilt<type##child_>, __LINE__);                               \
     }
 
 #define MESSAGE(name_, ...)                                                                        \
@@ -55,6 +55,6 @@ TARN_SHARED TarnMsg *new_msg(Id id) {
         return link(msg, head_of(ie));                                                             \
     }                                                                                              \
     uint32_t TarnExtract##child_##IeFrom##owner_##Msg(TarnMsg *msg, Tarn##child_##Ie **ie) {       \
-        return borrow(msg, reinterpret_cast<TarnIe **>(ie), asBuilt<type##child_>);                \
+        return borrow(msg, reinterpret_cast<TarnIe **>(ie), asBuilt<type##child_>, __LINE__);      \
     }
 #include "catalogue/messages.def"

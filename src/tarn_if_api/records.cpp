@@ -246,13 +246,13 @@ void fill_shared(const SlotTable &table, const SlotTable &own, Input in, void *r
 }
 
 // The message may be any: it is decoded as what it says that it is.
-uint32_t get_any(const uint8_t *buffer, uint32_t length, void *record, MessageNumber own) {
+[[gnu::noinline]] uint32_t get_any(const uint8_t *buffer, uint32_t length, void *record,
+                                   MessageNumber own) {
     const uint32_t id = peek_message_id(buffer, length);
     if (id >= messageCount || slots_of(MessageNumber(id)).count == 0)
         return fail_get();
     const SlotTable &table = slots_of(MessageNumber(id));
-    Input in{buffer, length};
-    if (!decodes(judge_slots(table, &in)))
+    if (judge_msg(table, buffer, length) == nullptr)
         return fail_get();
     fill_shared(table, slots_of(own), Input{buffer, length}, record);
     return 1;

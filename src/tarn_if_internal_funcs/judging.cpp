@@ -18,8 +18,9 @@ Judge<Nobody> judge() {
 
 } // namespace
 
-Reason judge_slots(const SlotTable &table, Input *in) {
-    return judge().slots(table, in);
+const uint8_t *judge_msg(const SlotTable &table, const uint8_t *at, uint32_t length) {
+    Input in{at, length};
+    return decodes(judge().slots(table, &in)) ? in.at : nullptr;
 }
 
 Reason judge_ie(TypeId id, void *to, Input *in) {

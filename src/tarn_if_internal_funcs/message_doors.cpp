@@ -6,6 +6,10 @@
 
 using namespace tarn;
 
+static uint32_t append_message_id(TarnMsg *msg, TarnMessageId value) {
+    return any_null(TARN_CALLER(moduleInternal), msg) ? 0 : link_message_id(msg, value);
+}
+
 #define MESSAGE(name_, ...)                                                                        \
     TarnMsg *TarnUnpack##name_##Msg(const uint8_t *buffer, uint32_t length) {                      \
         return unpack_msg(buffer, length, message##name_);                                         \

@@ -215,8 +215,7 @@ TARN_INLINE const uint8_t *end_of_msg(const Owner &owner, const uint8_t *buffer,
     if (end != nullptr) [[likely]]
         return end;
 #endif
-    Input in{buffer, length};
-    return decodes(judge_slots(slots_of(owner), &in)) ? in.at : nullptr;
+    return judge_msg(slots_of(owner), buffer, length);
 }
 
 } // namespace tarn

@@ -152,16 +152,6 @@ uint32_t unpack_composite_ie(TarnIe *ie, const uint8_t *buffer, uint32_t availab
     return ok || available == 0;
 }
 
-// The header in front of the id is judged with the message.
-uint32_t unpack_msg_of_any_type(const uint8_t *buffer, uint32_t length, TarnMsg **msg) {
-    const uint32_t id = length > headerSize ? buffer[headerSize] : 0;
-    if (id >= messageCount)
-        return 0;
-    return with_message(MessageNumber(id), [&](auto known) TARN_INLINE_LAMBDA {
-        return unpack_ies(known, buffer, length, msg);
-    });
-}
-
 TarnMsg *unpack_msg(const uint8_t *buffer, uint32_t length, MessageNumber id) {
     if (any_null(TARN_CALLER(moduleInternal), buffer))
         return nullptr;
@@ -178,3 +168,19 @@ uint32_t peek_message_id(const uint8_t *buffer, uint32_t length) {
 }
 
 } // namespace tarn
+
+using namespace tarn;
+
+// *msg is the message that the bytes hold, or null. The header in front of the id is judged with
+// the message.
+uint32_t TarnUnpackNewMsg(const uint8_t *buffer, uint32_t length, TarnMsg **msg) {
+    const bool missing = any_null(TARN_CALLER(moduleApi), msg, buffer);
+    if (msg != nullptr)
+        *msg = nullptr;
+    const uint32_t id = !missing && length > headerSize ? buffer[headerSize] : 0;
+    if (id >= messageCount)
+        return 0;
+    return with_message(MessageNumber(id), [&](auto known) TARN_INLINE_LAMBDA {
+        return unpack_ies(known, buffer, length, msg);
+    });
+}

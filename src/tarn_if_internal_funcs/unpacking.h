@@ -18,7 +18,6 @@ uint32_t unpack_composite_ie(TarnIe *ie, const uint8_t *buffer, uint32_t availab
 // The message that the bytes hold is returned or stored, or else the result is 0 or null. Bytes
 // behind the last IE that the type knows are ignored. The id of the type asked for is taken from
 // the call: the value of the MessageId IE is not compared with it.
-uint32_t unpack_msg_of_any_type(const uint8_t *buffer, uint32_t length, TarnMsg **msg);
 TarnMsg *unpack_msg(const uint8_t *buffer, uint32_t length, MessageNumber id);
 
 // Returns the id in the MessageId IE that the bytes begin with, or 0.
