@@ -5,6 +5,7 @@
 
 #include "support/library_test.h"
 #include "support/mutations.h"
+#include "support/sample_files.h"
 #include "support/samples.h"
 #include "tarn_info.h"
 
@@ -105,6 +106,14 @@ TEST_F(Agreement, OnBytesOfEveryMessageAndWhatBecomesOfThem) {
             const Nodes nodes = samples::make_message(*message, amounts[round % 3], random);
             ASSERT_NO_FATAL_FAILURE(expect_bytes(samples::encode(nodes)));
             ASSERT_NO_FATAL_FAILURE(expect_bytes(samples::mutate(nodes, random)));
+        }
+}
+
+TEST_F(Agreement, OnTheSampleFiles) {
+    for (const char *folder : {"", "lenient", "refused"})
+        for (const samples::Sample &sample : samples::read(folder)) {
+            SCOPED_TRACE(testing::PrintToString(sample));
+            ASSERT_NO_FATAL_FAILURE(expect_bytes(sample.bytes));
         }
 }
 
