@@ -124,6 +124,7 @@ TIMEFORMAT='==== %0R s, %0U s of processor time'
 run() {
     local stage end
     for stage in "$@"; do
+        echo "==== $stage begins"
         end=passed
         if [ $again = no ] && [ "$(cat "$marks/$stage" 2>/dev/null)" = "$(sources)" ]; then
             echo "on these sources, before" >"$marks/$stage.log"

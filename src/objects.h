@@ -35,10 +35,8 @@ static_assert(markOffset + sizeof(Mark) == sizeof(TarnIe) && sizeof(void *) <= s
 
 // Returns a new IE object: unlinked, not yet extracted, with its value or children still to be set.
 TARN_INLINE TarnIe *create_head(TypeId id, Caller caller) {
-    void *block = nullptr;
-    velAllocMemoryWithIds(uint32_t(sizeof(TarnIe)) + type_of(id).valueSize, &block, caller.module,
-                          caller.line);
-    auto *ie = static_cast<TarnIe *>(block);
+    auto *ie =
+        static_cast<TarnIe *>(allocate(uint32_t(sizeof(TarnIe)) + type_of(id).valueSize, caller));
     xVelDllInitNode(&ie->node, caller.module, caller.line);
     const Mark mark{id};
     memcpy(at_offset(ie, markOffset), &mark, sizeof mark);
@@ -54,9 +52,7 @@ TARN_INLINE TarnIe *create_composite(TypeId id, Caller caller) {
 
 // Returns a new message object without any IE.
 TARN_INLINE TarnMsg *create_msg(MessageNumber id, Caller caller) {
-    void *block = nullptr;
-    velAllocMemoryWithIds(sizeof(TarnMsg), &block, caller.module, caller.line);
-    auto *msg = static_cast<TarnMsg *>(block);
+    auto *msg = static_cast<TarnMsg *>(allocate(sizeof(TarnMsg), caller));
     xVelDllInitHead(&msg->ies, 0, caller.module, caller.line);
     msg->messageId = id;
     return msg;

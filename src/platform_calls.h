@@ -46,6 +46,13 @@ TARN_INLINE bool any_null(Caller caller, const Pointers *...pointers) {
     return true;
 }
 
+// The variable is null when the host gets it.
+TARN_INLINE void *allocate(uint32_t size, Caller caller) {
+    void *block = nullptr;
+    velAllocMemoryWithIds(size, &block, caller.module, caller.line);
+    return block;
+}
+
 // The head of any IE object, or null for a null one: every type of IE object begins with it.
 template <class Object>
 inline TarnIe *head_of(Object *ie) {

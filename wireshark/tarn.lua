@@ -569,15 +569,19 @@ end
 
 local greatestSize, mostPatterns = 255, 64 -- what is longer or varies more matches seldom
 
--- These mean something in a set; such a bound is moved inwards.
+-- These mean something in a set, which is made smaller until none of them is a bound.
 local isSpecial = { [0x25] = true, [0x5D] = true, [0x5E] = true } -- % ] ^
 
 local function byte_pattern(first, last)
   if first == 0 and last == 255 then
     return "."
   end
-  first = isSpecial[first] and first + 1 or first
-  last = isSpecial[last] and last - 1 or last
+  while isSpecial[first] do
+    first = first + 1
+  end
+  while isSpecial[last] do
+    last = last - 1
+  end
   return "[" .. string.char(first) .. "-" .. string.char(last) .. "]"
 end
 

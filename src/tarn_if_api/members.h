@@ -80,12 +80,8 @@ TARN_SHARED static uint32_t borrow(Owner *owner, TarnIe **child, Id id, uint32_t
         return 0;
     TarnIe **volatile to = child;
     TarnIe *const ie = take_next(list_of(owner), id, caller);
-    if (ie == nullptr) {
-        *to = nullptr;
-        return 0;
-    }
     *to = ie;
-    return 1;
+    return ie != nullptr;
 }
 
 } // namespace tarn
