@@ -6,41 +6,32 @@ using namespace tarn;
 
 namespace {
 
-// Releases the primitive IEs that the list begins with, always the current head, so that a released
-// one is never needed to find the next. Returns whether *block is the composite behind them, which
-// is unlinked then; else the list is empty. Unlinking stands on both branches: to ask for the tag
-// behind it takes one instruction more for each IE.
-TARN_INLINE bool delete_primitives(VelDllHead *list, void **block) {
-    *block = first_ie(list, TARN_CALLER(moduleApi));
-    while (*block != nullptr) {
-        if (is_composite_tag(static_cast<TarnIe *>(*block)->tag)) {
-            xVelDllRemoveNode(list, static_cast<VelDllNode *>(*block), moduleApi, __LINE__);
-            return true;
-        }
-        xVelDllRemoveNode(list, static_cast<VelDllNode *>(*block), moduleApi, __LINE__);
-        velFreeMemoryWithIds(block, moduleApi, __LINE__);
-        *block = first_ie(list, TARN_CALLER(moduleApi));
-    }
-    return false;
-}
-
-// A composite comes after its children: until then the list that it stood in is kept in the place
-// of its mark, so that nesting takes no stack however deep it is.
-[[gnu::noinline]] void delete_composite(void *const top) {
-    VelDllHead *list = children_of(static_cast<TarnIe *>(top));
+// Releases all IEs in the list and below, always the current head, so that a released one is never
+// needed to find the next. A composite comes after its children: until then the list that it stood
+// in is kept in the place of its mark, so that nesting takes no stack however deep it is. Unlinking
+// stands on both branches: to ask for the tag behind it takes one instruction more for each IE.
+TARN_SHARED void delete_all(VelDllHead *const top) {
+    VelDllHead *list = top;
+    void *block = first_ie(list, TARN_CALLER(moduleApi));
     for (;;) {
-        void *block;
-        if (delete_primitives(list, &block)) {
-            memcpy(at_offset(block, markOffset), &list, sizeof(void *));
-            list = children_of(static_cast<TarnIe *>(block));
-            continue;
+        while (block != nullptr) {
+            VelDllNode *const node = static_cast<VelDllNode *>(block);
+            if (is_composite_tag(static_cast<TarnIe *>(block)->tag)) [[unlikely]] {
+                xVelDllRemoveNode(list, node, moduleApi, __LINE__);
+                memcpy(at_offset(block, markOffset), &list, sizeof(void *));
+                list = children_of(static_cast<TarnIe *>(block));
+            } else {
+                xVelDllRemoveNode(list, node, moduleApi, __LINE__);
+                velFreeMemoryWithIds(&block, moduleApi, __LINE__);
+            }
+            block = first_ie(list, TARN_CALLER(moduleApi));
         }
-        TarnIe *const emptied = reinterpret_cast<TarnIe *>(list) - 1;
-        block = emptied;
-        memcpy(&list, at_offset(block, markOffset), sizeof(void *)); // in `top`, still a mark
-        velFreeMemoryWithIds(&block, moduleApi, __LINE__);
-        if (emptied == top)
+        if (list == top)
             return;
+        block = reinterpret_cast<TarnIe *>(list) - 1;
+        memcpy(&list, at_offset(block, markOffset), sizeof(void *));
+        velFreeMemoryWithIds(&block, moduleApi, __LINE__);
+        block = first_ie(list, TARN_CALLER(moduleApi));
     }
 }
 
@@ -63,20 +54,17 @@ void reset_all(VelDllHead *list) {
 void TarnDeleteIe(TarnIe *ie) {
     if (any_null(TARN_CALLER(moduleApi), ie))
         return;
-    void *block = ie;
     if (is_composite_tag(ie->tag))
-        delete_composite(block);
-    else
-        velFreeMemoryWithIds(&block, moduleApi, __LINE__);
+        delete_all(children_of(ie));
+    void *block = ie;
+    velFreeMemoryWithIds(&block, moduleApi, __LINE__);
 }
 
 void TarnDeleteMsg(TarnMsg *msg) {
     if (any_null(TARN_CALLER(moduleApi), msg))
         return;
-    void *block;
-    while (delete_primitives(&msg->ies, &block))
-        delete_composite(block);
-    block = msg;
+    delete_all(&msg->ies);
+    void *block = msg;
     velFreeMemoryWithIds(&block, moduleApi, __LINE__);
 }
 
