@@ -12,7 +12,7 @@ namespace {
 
 // Composites of up to this many levels are made where they stand, and others by functions of their
 // own, whose calls cost more than a small composite does.
-constexpr unsigned levelsInPlace = 3;
+constexpr unsigned levelsInPlace = 4;
 
 [[maybe_unused]] constexpr unsigned levels_of(TypeId id) {
     const Type &type = type_of(id);
@@ -56,9 +56,9 @@ TARN_SHARED const uint8_t *make_slots(const Owner &owner, VelDllHead *list, cons
                                       const uint8_t *end) {
     each_slot(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
         const bool isSure = isConstant<Owner> && slot.presence == Presence::mandatory;
-        if (!isSure && at == end)
+        if (!isSure && at == end) [[unlikely]]
             return false;
-        if (slot.presence == Presence::mandatory || load16(at) == slot.type)
+        if (slot.presence == Presence::mandatory || load16(at) == slot.type) [[likely]]
             at = make_ie(slot.type, list, at, end);
         return true;
     });
