@@ -245,7 +245,8 @@ void Listener::add_left_out(std::uint32_t stop, std::vector<Finding> *findings) 
 
 // What only the validator sees: a child that is called for and was left out, or is not there.
 void Listener::check_conditions() {
-    const tarn::NumbersInBytes numbers{bytes_};
+    const tarn::NumbersInBytes numbers{tarn::slots_of(tarn::MessageNumber(out_.message->id)),
+                                       bytes_};
     for (const TarnInfoSlot &slot : slots_of(*out_.message)) {
         const tarn::Slot &row = tarn::catalogue.slots[&slot - facts.slots];
         if (slot.condition == nullptr || !tarn::condition_holds(row.condition, numbers) ||

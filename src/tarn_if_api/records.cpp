@@ -229,10 +229,10 @@ const uint8_t *fill_composite(Id id, void *record, const uint8_t *at, const uint
 
 // Stores what the message that was judged good shares with the record's type.
 void fill_shared(const SlotTable &table, const SlotTable &own, Input in, void *record) {
-    const uint8_t *const start = in.at;
+    const NumbersInBytes numbers{table, in.at};
     for (const Slot *slot = slots_begin(table); slot != slots_end(table); ++slot) {
         const uint8_t *const at = in.at;
-        if (judge_slot(*slot, start, &in) != Fate::taken)
+        if (judge_slot(*slot, numbers, &in) != Fate::taken)
             continue;
         for (const Slot *shared = slots_begin(own); shared != slots_end(own); ++shared)
             if (shared->type == slot->type)
@@ -296,7 +296,7 @@ uint32_t get_msg(const uint8_t *buffer, uint32_t length, void *record, Id id) {
     if (any_null(TARN_CALLER(moduleApi), buffer, record))
         return 0;
 #ifdef TARN_BUILT_FOR_SPEED
-    const uint8_t *const end = plain_slots(owner_of(id), buffer, buffer + length);
+    const uint8_t *const end = plain_slots(owner_of(id), {buffer, ptrdiff_t(length)}).at;
     if (end != nullptr && buffer[headerSize] == id) [[likely]] {
         fill_slots(id, record, msgMaskOffset, buffer, end);
         return 1;

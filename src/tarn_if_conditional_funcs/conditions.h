@@ -24,15 +24,17 @@ TARN_INLINE bool condition_holds(ConditionId id, const Numbers &numbers) {
     return isInside == condition.counts;
 }
 
-// The owner's IEs on the wire, from the first one on.
+// The owner's IEs on the wire, from the first one on. Where a number stands follows from the rows,
+// so that it is a constant for a constant owner.
 struct NumbersInBytes {
+    const SlotTable &table;
     const uint8_t *start;
 
     TARN_INLINE bool find(TypeId id, uint32_t *number) const {
-        const uint8_t *at = start;
-        while (load16(at) != id)
-            at += headerSize + load32(at + tagSize);
-        *number = load16(at + headerSize);
+        const uint8_t *at = start + headerSize;
+        for (const Slot *slot = slots_begin(table); slot->type != id; ++slot)
+            at += headerSize + type_of(slot->type).fixedSize;
+        *number = load16(at);
         return true;
     }
 };

@@ -31,8 +31,8 @@ Reason judge_value(TypeId id, void *to, uint32_t length, Input *in) {
     return judge().value(type_of(id), to, length, in);
 }
 
-Fate judge_slot(const Slot &slot, const uint8_t *start, Input *in) {
-    return judge().slot(slot, start, in);
+Fate judge_slot(const Slot &slot, const NumbersInBytes &numbers, Input *in) {
+    return judge().slot(slot, numbers, in);
 }
 
 } // namespace tarn

@@ -75,9 +75,8 @@ public:
     // The IEs of a message or the children of a sequence, from the first one on.
     Reason slots(const SlotTable &table, Input *in);
 
-    // One slot, whose IE is passed over if it is taken; `start` is where the first slot's IE
-    // stands.
-    Fate slot(const Slot &slot, const uint8_t *start, Input *in);
+    // One slot, whose IE is passed over if it is taken.
+    Fate slot(const Slot &slot, const NumbersInBytes &numbers, Input *in);
 
     // A whole IE, and what follows the header of a primitive one. A value is stored if `to` is not
     // null, and then as far as it decodes.
@@ -93,7 +92,7 @@ private:
     Reason primitive(TypeId id, void *to, Input *in);
     Reason header(TypeId id, Input *in);
     Reason elements(const Type &list, uint32_t length, Input *in);
-    Reason end_before(const Slot *slot, const Slot *end, const uint8_t *start, const uint8_t *at);
+    Reason end_before(const Slot *slot, const NumbersInBytes &numbers, const uint8_t *at);
 
     Reason find(Reason reason, const uint8_t *at, uint32_t number) {
         listener_->finds(reason, at, number);
@@ -315,8 +314,7 @@ bool refuses(const Slot &slot, Reason reason, Numbers numbers) {
 }
 
 template <class Listener>
-Fate Judge<Listener>::slot(const Slot &slot, const uint8_t *start, Input *in) {
-    const NumbersInBytes numbers{start};
+Fate Judge<Listener>::slot(const Slot &slot, const NumbersInBytes &numbers, Input *in) {
     const Input before = *in;
     listener_->enters({Place::slot, uint32_t(&slot - catalogue.slots)}, slot.type, before.at);
     Reason reason = ie(slot.type, nullptr, in);
@@ -335,13 +333,12 @@ Fate Judge<Listener>::slot(const Slot &slot, const uint8_t *start, Input *in) {
 // The bytes have ended before this slot. RelocationRequired refuses to end before a child that is
 // called for; any other owner decodes, and is not valid.
 template <class Listener>
-Reason Judge<Listener>::end_before(const Slot *slot, const Slot *end, const uint8_t *start,
+Reason Judge<Listener>::end_before(const Slot *slot, const NumbersInBytes &numbers,
                                    const uint8_t *at) {
     Reason verdict = Reason::none;
-    for (; slot != end; ++slot) {
+    for (; slot != slots_end(numbers.table); ++slot) {
         const bool isMandatory = slot->presence == Presence::mandatory;
-        if (!isMandatory &&
-            (!is_conditional(*slot) || !condition_holds(slot->condition, NumbersInBytes{start})))
+        if (!isMandatory && (!is_conditional(*slot) || !condition_holds(slot->condition, numbers)))
             continue;
         const bool isRefused = isMandatory || slot->rule == UnpackRule::dropUncalledRequireAtEnd;
         const Reason reason = isMandatory ? Reason::noBytes : Reason::conditionUnmet;
@@ -357,12 +354,11 @@ Reason Judge<Listener>::end_before(const Slot *slot, const Slot *end, const uint
 
 template <class Listener>
 Reason Judge<Listener>::slots(const SlotTable &table, Input *in) {
-    const uint8_t *const start = in->at;
-    const Slot *const end = slots_end(table);
-    for (const Slot *each = slots_begin(table); each != end; ++each) {
+    const NumbersInBytes numbers{table, in->at};
+    for (const Slot *each = slots_begin(table); each != slots_end(table); ++each) {
         if (in->left == 0)
-            return end_before(each, end, start, in->at);
-        if (slot(*each, start, in) == Fate::refuses)
+            return end_before(each, numbers, in->at);
+        if (slot(*each, numbers, in) == Fate::refuses)
             return Reason::child;
     }
     return Reason::none;
@@ -375,7 +371,7 @@ Reason Judge<Listener>::slots(const SlotTable &table, Input *in) {
 [[gnu::cold]] const uint8_t *judge_msg(const SlotTable &table, const uint8_t *at, uint32_t length);
 Reason judge_ie(TypeId id, void *to, Input *in);
 Reason judge_value(TypeId id, void *to, uint32_t length, Input *in);
-Fate judge_slot(const Slot &slot, const uint8_t *start, Input *in);
+Fate judge_slot(const Slot &slot, const NumbersInBytes &numbers, Input *in);
 
 } // namespace tarn
 

@@ -74,51 +74,60 @@ TARN_INLINE bool is_plain(Constant<id> known, const uint8_t *at) {
 
 // ---- Any IE ------------------------------------------------------------------------------------
 
-// Each returns where the IE ends, or null if it is not plainly good.
+// What is left of the bytes. The count is signed so that the compiler may compare an earlier count
+// instead of subtracting first. Bytes too many for it look like none, and take the long way.
+struct Rest {
+    const uint8_t *at = nullptr;
+    ptrdiff_t left = 0;
+
+    TARN_INLINE Rest behind(uint32_t count) const { return {at + count, left - ptrdiff_t(count)}; }
+};
+
+// Each returns what is left behind the IE, at null if it is not plainly good.
 
 template <class Id>
-const uint8_t *plain_composite(Id id, const uint8_t *at, const uint8_t *end);
+Rest plain_composite(Id id, Rest in);
 
 template <TypeId id>
-TARN_INLINE const uint8_t *plain_ie(Constant<id>, const uint8_t *at, const uint8_t *end);
+TARN_INLINE Rest plain_ie(Constant<id>, Rest in);
 
+// Whether the parts of a value use it up.
 template <TypeId id>
-TARN_INLINE const uint8_t *plain_parts(Constant<id> known, const uint8_t *at, const uint8_t *stop) {
+TARN_INLINE bool are_plain_parts(Constant<id> known, Rest value) {
     constexpr const Type &type = type_of(id);
     if constexpr (type.kind == Kind::record) {
         each_member(known, [&](const auto &member) TARN_INLINE_LAMBDA {
-            at = plain_ie(member.type, at, stop);
-            return at != nullptr;
+            value = plain_ie(member.type, value);
+            return value.at != nullptr;
         });
-        return at;
+        return value.at != nullptr && value.left == 0;
     } else {
         uint32_t count = 0;
-        for (; at != nullptr && at != stop; ++count)
-            at = count < type.greatest ? plain_ie(element_of(known), at, stop) : nullptr;
-        return count >= type.least ? at : nullptr;
+        for (; value.at != nullptr && value.left != 0; ++count)
+            value = count < type.greatest ? plain_ie(element_of(known), value) : Rest{};
+        return value.at != nullptr && count >= type.least;
     }
 }
 
 template <TypeId id>
-TARN_INLINE const uint8_t *plain_ie(Constant<id> known, const uint8_t *at, const uint8_t *end) {
+TARN_INLINE Rest plain_ie(Constant<id> known, Rest in) {
     constexpr const Type &type = type_of(id);
-    const size_t left = size_t(end - at);
     if constexpr (is_composite(type.kind)) {
-        return plain_composite(known, at, end);
+        return plain_composite(known, in);
     } else if constexpr (constant_ie_size(Constant<id>()) != 0) {
         constexpr uint32_t size = constant_ie_size(Constant<id>());
-        return left >= size && is_plain(known, at) ? at + size : nullptr;
+        return in.left >= ptrdiff_t(size) && is_plain(known, in.at) ? in.behind(size) : Rest{};
     } else {
-        if (left < headerSize || load16(at) != id)
-            return nullptr;
-        const uint32_t length = load32(at + tagSize);
-        if (length > left - headerSize)
-            return nullptr;
-        at += headerSize;
+        if (in.left < ptrdiff_t(headerSize) || load16(in.at) != id)
+            return Rest{};
+        const uint32_t length = load32(in.at + tagSize);
+        in = in.behind(headerSize);
+        if (length > size_t(in.left))
+            return Rest{};
         if constexpr (type.kind == Kind::bytes)
-            return in_range(type, length) ? at + length : nullptr;
+            return in_range(type, length) ? in.behind(length) : Rest{};
         else
-            return plain_parts(known, at, at + length) == at + length ? at + length : nullptr;
+            return are_plain_parts(known, {in.at, ptrdiff_t(length)}) ? in.behind(length) : Rest{};
     }
 }
 
@@ -142,67 +151,72 @@ constexpr Run leading_run(const SlotTable &table) {
 }
 
 template <class Owner>
-TARN_INLINE const uint8_t *plain_run(const uint8_t *at, const uint8_t *end) {
-    constexpr Run run = leading_run(slots_of(Owner::value));
-    if (size_t(end - at) < run.size)
-        return nullptr;
-    auto visit = [&](const auto &slot) TARN_INLINE_LAMBDA {
+TARN_INLINE Rest plain_run(Rest in) {
+    constexpr const SlotTable &table = slots_of(Owner::value);
+    constexpr Run run = leading_run(table);
+    if (in.left < ptrdiff_t(run.size))
+        return Rest{};
+    const uint8_t *at = in.at;
+    const auto visit = [&](const auto &slot) TARN_INLINE_LAMBDA {
         const uint8_t *const ie = at;
         at += constant_ie_size(slot.type);
         return is_plain(slot.type, ie);
     };
-    constexpr unsigned first = slots_of(Owner::value).first;
-    return visit_fixed<&Catalogue::slots, first>(IndicesBelow<run.slots>(), visit) ? at : nullptr;
+    const bool isPlain =
+        visit_fixed<&Catalogue::slots, table.first>(IndicesBelow<run.slots>(), visit);
+    return isPlain ? in.behind(run.size) : Rest{};
 }
 
-// `at` is the first IE. An absent optional child is skipped. One that is cut off counts as absent,
-// since nothing can follow it.
+// `in` begins with the first IE. An absent optional child is skipped. One that is cut off counts as
+// absent, since nothing can follow it.
 template <class Owner>
-TARN_INLINE const uint8_t *plain_slots(Owner owner, const uint8_t *at, const uint8_t *end) {
+TARN_INLINE Rest plain_slots(Owner owner, Rest in) {
     constexpr Run run = leading_run(slots_of(Owner::value));
-    const NumbersInBytes numbers{at};
-    at = plain_run<Owner>(at, end);
-    if (at == nullptr)
-        return nullptr;
+    const NumbersInBytes numbers{slots_of(Owner::value), in.at};
+    in = plain_run<Owner>(in);
+    if (in.at == nullptr)
+        return Rest{};
     each_slot_behind<run.slots>(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
         const bool isNeeded = slot.presence == Presence::mandatory ||
                               (is_conditional(slot) && condition_holds(slot.condition, numbers));
         const bool isTried = isNeeded || !is_conditional(slot);
-        const uint8_t *const next = isTried ? plain_ie(slot.type, at, end) : nullptr;
-        const bool isAbsent = next == nullptr && !isNeeded &&
-                              (size_t(end - at) < headerSize || load16(at) != slot.type);
-        at = isAbsent ? at : next;
-        return at != nullptr;
+        const Rest next = isTried ? plain_ie(slot.type, in) : Rest{};
+        if (next.at != nullptr) [[likely]] {
+            in = next;
+            return true;
+        }
+        if (isNeeded || (in.left >= ptrdiff_t(headerSize) && load16(in.at) == slot.type))
+            in = Rest{};
+        return in.at != nullptr;
     });
-    return at;
+    return in;
 }
 
 // Elements are bounded by the buffer and must end where their list does.
 template <class Id>
-TARN_INLINE const uint8_t *plain_elements(Id id, const uint8_t *at, uint32_t length,
-                                          const uint8_t *end) {
+TARN_INLINE Rest plain_elements(Id id, Rest in, uint32_t length) {
     const Type &type = type_of(id);
-    if (length > size_t(end - at))
-        return nullptr;
-    const uint8_t *const stop = at + length;
+    if (length > size_t(in.left))
+        return Rest{};
+    const ptrdiff_t behind = in.left - ptrdiff_t(length);
     uint32_t count = 0;
-    for (; at < stop; ++count) {
-        at = count < type.greatest ? plain_composite(element_of(id), at, end) : nullptr;
-        if (at == nullptr)
-            return nullptr;
+    for (; in.left > behind; ++count) {
+        in = count < type.greatest ? plain_composite(element_of(id), in) : Rest{};
+        if (in.at == nullptr)
+            return Rest{};
     }
-    return at == stop && count >= type.least ? at : nullptr;
+    return in.left == behind && count >= type.least ? in : Rest{};
 }
 
 template <class Id>
-const uint8_t *plain_composite(Id id, const uint8_t *at, const uint8_t *end) {
-    if (size_t(end - at) < headerSize || load16(at) != id)
-        return nullptr;
-    const uint32_t length = load32(at + tagSize);
-    at += headerSize;
+Rest plain_composite(Id id, Rest in) {
+    if (in.left < ptrdiff_t(headerSize) || load16(in.at) != id)
+        return Rest{};
+    const uint32_t length = load32(in.at + tagSize);
+    in = in.behind(headerSize);
     return by_kind<is_sequence>(
-        id, [&](auto sequence) TARN_INLINE_LAMBDA { return plain_slots(sequence, at, end); },
-        [&](auto list) TARN_INLINE_LAMBDA { return plain_elements(list, at, length, end); });
+        id, [&](auto sequence) TARN_INLINE_LAMBDA { return plain_slots(sequence, in); },
+        [&](auto list) TARN_INLINE_LAMBDA { return plain_elements(list, in, length); });
 }
 
 #endif
@@ -211,7 +225,7 @@ const uint8_t *plain_composite(Id id, const uint8_t *at, const uint8_t *end) {
 template <class Owner>
 TARN_INLINE const uint8_t *end_of_msg(const Owner &owner, const uint8_t *buffer, uint32_t length) {
 #ifdef TARN_BUILT_FOR_SPEED
-    const uint8_t *const end = plain_slots(owner, buffer, buffer + length);
+    const uint8_t *const end = plain_slots(owner, {buffer, ptrdiff_t(length)}).at;
     if (end != nullptr) [[likely]]
         return end;
 #endif
