@@ -197,6 +197,7 @@ TARN_SHARED const uint8_t *fill_slots(const Owner &owner, void *record, unsigned
                                       const uint8_t *at, const uint8_t *end) {
     each_slot(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
         if (slot.presence == Presence::mandatory || (at != end && load16(at) == slot.type))
+            [[likely]]
             at = fill_member(slot, record, maskOffset, at, end);
         return true;
     });
