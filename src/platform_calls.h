@@ -46,11 +46,16 @@ TARN_INLINE bool any_null(Caller caller, const Pointers *...pointers) {
     return true;
 }
 
-// The variable is null when the host gets it.
+// The variable is null when the host gets it. It is cleared through a pointer that the compiler
+// does not see through: where it is cleared and read under the same address of the stack, some
+// processors take it to hold the null still, and begin anew behind the call.
 TARN_INLINE void *allocate(uint32_t size, Caller caller) {
-    void *block = nullptr;
-    velAllocMemoryWithIds(size, &block, caller.module, caller.line);
-    return block;
+    void *block;
+    void **variable = &block;
+    asm volatile("" : "+r"(variable));
+    *variable = nullptr;
+    velAllocMemoryWithIds(size, variable, caller.module, caller.line);
+    return block; // NOLINT(clang-analyzer-core.uninitialized.UndefReturn)
 }
 
 // The head of any IE object, or null for a null one: every type of IE object begins with it.

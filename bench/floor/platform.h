@@ -15,8 +15,12 @@ inline constexpr char module[] = "tarn_floor";
 
 template <class Object>
 inline Object *allocate() {
-    void *block = nullptr;
-    velAllocMemoryWithIds(sizeof(Object), &block, module, __LINE__);
+    // As in the library: null on entry, and cleared under another address than it is read.
+    void *block;
+    void **variable = &block;
+    asm volatile("" : "+r"(variable));
+    *variable = nullptr;
+    velAllocMemoryWithIds(sizeof(Object), variable, module, __LINE__);
     return static_cast<Object *>(block);
 }
 
