@@ -20,7 +20,7 @@ uint32_t encode_SecurityModeReject(uint8_t *buffer, uint32_t size,
 
 uint32_t decode_SecurityModeReject(const uint8_t *buffer, uint32_t length,
                                    TarnSecurityModeRejectRecord *record) {
-    TarnMsg *msg = nullptr;
+    TarnMsg *msg;
     if (TarnUnpackNewMsg(buffer, length, &msg) == 0)
         return 0;
     TarnExtractMessageIdFromSecurityModeRejectMsg(msg, &record->MessageId);
@@ -48,7 +48,7 @@ uint32_t encode_AccessControlRequest(uint8_t *buffer, uint32_t size,
 
 uint32_t decode_AccessControlRequest(const uint8_t *buffer, uint32_t length,
                                      TarnAccessControlRequestRecord *record) {
-    TarnMsg *msg = nullptr;
+    TarnMsg *msg;
     if (TarnUnpackNewMsg(buffer, length, &msg) == 0)
         return 0;
     TarnExtractMessageIdFromAccessControlRequestMsg(msg, &record->MessageId);
@@ -76,7 +76,7 @@ uint32_t encode_UlDirectTransfer(uint8_t *buffer, uint32_t size,
 
 uint32_t decode_UlDirectTransfer(const uint8_t *buffer, uint32_t length,
                                  TarnUlDirectTransferRecord *record) {
-    TarnMsg *msg = nullptr;
+    TarnMsg *msg;
     if (TarnUnpackNewMsg(buffer, length, &msg) == 0)
         return 0;
     TarnExtractMessageIdFromUlDirectTransferMsg(msg, &record->MessageId);
@@ -142,7 +142,7 @@ void extract_formats(TarnSduFormatInfoParamListIe *formats,
                      TarnSduFormatInfoParamListRecord *record) {
     record->count = formatCount;
     for (unsigned i = 0; i < formatCount; ++i) {
-        TarnSduFormatInfoParamsIe *format = nullptr;
+        TarnSduFormatInfoParamsIe *format;
         TarnExtractSduFormatInfoParamsIeFromSduFormatInfoParamListIe(formats, &format);
         TarnSduFormatInfoParamsRecord *to = &record->items[i];
         to->presence = 0x80 | 0x40;
@@ -153,12 +153,12 @@ void extract_formats(TarnSduFormatInfoParamListIe *formats,
 }
 
 void extract_subflow(TarnSduParamsIe *subflows, TarnSduParamValueRecord *record) {
-    TarnSduParamValueIe *subflow = nullptr;
+    TarnSduParamValueIe *subflow;
     TarnExtractSduParamValueIeFromSduParamsIe(subflows, &subflow);
     record->presence = 0x80;
     TarnExtractDeliveryOfErrSduFromSduParamValueIe(subflow, &record->DeliveryOfErrSdu);
     TarnExtractBitErrRatioFromSduParamValueIe(subflow, &record->BitErrRatio);
-    TarnSduFormatInfoParamListIe *formats = nullptr;
+    TarnSduFormatInfoParamListIe *formats;
     TarnExtractSduFormatInfoParamListIeFromSduParamValueIe(subflow, &formats);
     extract_formats(formats, &record->SduFormatInfoParamList);
 }
@@ -170,7 +170,7 @@ void extract_params(TarnRabParamsIe *params, TarnRabParamsRecord *record) {
     TarnExtractDeliveryOrderFromRabParamsIe(params, &record->DeliveryOrder);
     TarnExtractMaxSduSizeFromRabParamsIe(params, &record->MaxSduSize);
     TarnExtractBitRatesFromRabParamsIe(params, &record->BitRates);
-    TarnSduParamsIe *subflows = nullptr;
+    TarnSduParamsIe *subflows;
     TarnExtractSduParamsIeFromRabParamsIe(params, &subflows);
     record->SduParams.count = subflowCount;
     for (unsigned i = 0; i < subflowCount; ++i)
@@ -182,12 +182,12 @@ void extract_params(TarnRabParamsIe *params, TarnRabParamsRecord *record) {
 }
 
 void extract_rab(TarnRabListIe *rabs, TarnRabToSetUpInfoRecord *record) {
-    TarnRabToSetUpInfoIe *rab = nullptr;
+    TarnRabToSetUpInfoIe *rab;
     TarnExtractRabToSetUpInfoIeFromRabListIe(rabs, &rab);
     record->presence = 0x80 | 0x40;
     TarnExtractRabIdFromRabToSetUpInfoIe(rab, &record->RabId);
     TarnExtractAcUserPlaneAssociationFromRabToSetUpInfoIe(rab, &record->AcUserPlaneAssociation);
-    TarnRabParamsIe *params = nullptr;
+    TarnRabParamsIe *params;
     TarnExtractRabParamsIeFromRabToSetUpInfoIe(rab, &params);
     extract_params(params, &record->RabParams);
     TarnExtractNasSyncIndFromRabToSetUpInfoIe(rab, &record->NasSyncInd);
@@ -215,14 +215,14 @@ uint32_t encode_RabAssignmentRequest(uint8_t *buffer, uint32_t size,
 
 uint32_t decode_RabAssignmentRequest(const uint8_t *buffer, uint32_t length,
                                      TarnRabAssignmentRequestRecord *record) {
-    TarnMsg *msg = nullptr;
+    TarnMsg *msg;
     if (TarnUnpackNewMsg(buffer, length, &msg) == 0)
         return 0;
     TarnExtractMessageIdFromRabAssignmentRequestMsg(msg, &record->MessageId);
     TarnExtractSrntiFromRabAssignmentRequestMsg(msg, &record->Srnti);
     TarnExtractAcUeIdFromRabAssignmentRequestMsg(msg, &record->AcUeId);
     TarnExtractCnDomainIdFromRabAssignmentRequestMsg(msg, &record->CnDomainId);
-    TarnRabListIe *rabs = nullptr;
+    TarnRabListIe *rabs;
     TarnExtractRabListIeFromRabAssignmentRequestMsg(msg, &rabs);
     record->RabList.count = rabCount;
     for (unsigned i = 0; i < rabCount; ++i)
