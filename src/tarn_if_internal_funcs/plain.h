@@ -83,7 +83,7 @@ struct Rest {
     TARN_INLINE Rest behind(uint32_t count) const { return {at + count, left - ptrdiff_t(count)}; }
 };
 
-// Each returns what is left behind the IE, at null if it is not plainly good.
+// Each returns what is left behind the IE, or nothing, at null, if it is not plainly good.
 
 template <class Id>
 Rest plain_composite(Id id, Rest in);
@@ -96,11 +96,11 @@ template <TypeId id>
 TARN_INLINE bool are_plain_parts(Constant<id> known, Rest value) {
     constexpr const Type &type = type_of(id);
     if constexpr (type.kind == Kind::record) {
-        each_member(known, [&](const auto &member) TARN_INLINE_LAMBDA {
+        const bool isPlain = each_member(known, [&](const auto &member) TARN_INLINE_LAMBDA {
             value = plain_ie(member.type, value);
             return value.at != nullptr;
         });
-        return value.at != nullptr && value.left == 0;
+        return isPlain && value.left == 0;
     } else {
         uint32_t count = 0;
         for (; value.at != nullptr && value.left != 0; ++count)
@@ -150,32 +150,23 @@ constexpr Run leading_run(const SlotTable &table) {
     return run;
 }
 
-template <class Owner>
-TARN_INLINE Rest plain_run(Rest in) {
-    constexpr const SlotTable &table = slots_of(Owner::value);
-    constexpr Run run = leading_run(table);
-    if (in.left < ptrdiff_t(run.size))
-        return Rest{};
-    const uint8_t *at = in.at;
-    const auto visit = [&](const auto &slot) TARN_INLINE_LAMBDA {
-        const uint8_t *const ie = at;
-        at += constant_ie_size(slot.type);
-        return is_plain(slot.type, ie);
-    };
-    const bool isPlain =
-        visit_fixed<&Catalogue::slots, table.first>(IndicesBelow<run.slots>(), visit);
-    return isPlain ? in.behind(run.size) : Rest{};
-}
-
 // `in` begins with the first IE. An absent optional child is skipped. One that is cut off counts as
 // absent, since nothing can follow it.
 template <class Owner>
 TARN_INLINE Rest plain_slots(Owner owner, Rest in) {
-    constexpr Run run = leading_run(slots_of(Owner::value));
-    const NumbersInBytes numbers{slots_of(Owner::value), in.at};
-    in = plain_run<Owner>(in);
-    if (in.at == nullptr)
+    constexpr const SlotTable &table = slots_of(Owner::value);
+    constexpr Run run = leading_run(table);
+    const NumbersInBytes numbers{table, in.at};
+    const uint8_t *at = in.at;
+    const auto stands_next = [&](const auto &slot) TARN_INLINE_LAMBDA {
+        const uint8_t *const ie = at;
+        at += constant_ie_size(slot.type);
+        return is_plain(slot.type, ie);
+    };
+    if (in.left < ptrdiff_t(run.size) ||
+        !visit_fixed<&Catalogue::slots, table.first>(IndicesBelow<run.slots>(), stands_next))
         return Rest{};
+    in = in.behind(run.size);
     each_slot_behind<run.slots>(owner, [&](const auto &slot) TARN_INLINE_LAMBDA {
         const bool isNeeded = slot.presence == Presence::mandatory ||
                               (is_conditional(slot) && condition_holds(slot.condition, numbers));
@@ -203,7 +194,7 @@ TARN_INLINE Rest plain_elements(Id id, Rest in, uint32_t length) {
     for (; in.left > behind; ++count) {
         in = count < type.greatest ? plain_composite(element_of(id), in) : Rest{};
         if (in.at == nullptr)
-            return Rest{};
+            return in;
     }
     return in.left == behind && count >= type.least ? in : Rest{};
 }
