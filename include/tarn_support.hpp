@@ -390,7 +390,7 @@ protected:
     template <class Ref, class C>
     [[gnu::always_inline]] std::optional<Ref> extract_ie(std::uint32_t (*call)(Object *,
                                                                                C **)) const {
-        C *child = nullptr;
+        C *child; /* set by the call: to store a null before slows some processors */
         if (handle_ == nullptr || call(handle_, &child) == 0)
             return std::nullopt;
         return Ref(child);
@@ -487,7 +487,7 @@ inline Error why_record(Status status, std::uint32_t, const void *) {
 inline Result<Message> unpack(ByteView bytes) {
     if (bytes.empty())
         return Error(Status::empty);
-    TarnMsg *msg = nullptr;
+    TarnMsg *msg; /* set by the call, as above */
     if (TarnUnpackNewMsg(bytes.data(), detail::size32(bytes.size()), &msg) == 0)
         return detail::why_bytes(Status::refused, bytes);
     return Result<Message>(std::in_place, msg);

@@ -47,8 +47,8 @@ TARN_INLINE bool any_null(Caller caller, const Pointers *...pointers) {
 }
 
 // The variable is null when the host gets it. It is cleared through a pointer that the compiler
-// does not see through: where it is cleared and read under the same address of the stack, some
-// processors take it to hold the null still, and begin anew behind the call.
+// does not see through: where it is cleared and read at the same offset from the stack pointer,
+// some processors take it to hold the null still, and have to begin anew behind the call.
 TARN_INLINE void *allocate(uint32_t size, Caller caller) {
     void *block;
     void **variable = &block;

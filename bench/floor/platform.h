@@ -15,7 +15,7 @@ inline constexpr char module[] = "tarn_floor";
 
 template <class Object>
 inline Object *allocate() {
-    // As in the library: null on entry, and cleared under another address than it is read.
+    // As in the library: null on entry, and cleared through a pointer.
     void *block;
     void **variable = &block;
     asm volatile("" : "+r"(variable));
