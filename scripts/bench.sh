@@ -5,6 +5,9 @@
 #   scripts/bench.sh                   all of it
 #   scripts/bench.sh profile NAME      where an operation's instructions go, by function, e.g.
 #                                      "RabAssignmentRequest/decode/objects"
+#   scripts/bench.sh against REVISION [LAYOUTS]
+#                                      the time beside that of another revision's library, each
+#                                      linked in several orders, since where code lies tells
 #   scripts/bench.sh tool              the tool's messages a second, beside tshark
 #   scripts/bench.sh cpp               tarn.hpp beside the C calls that it stands for
 set -eu
@@ -20,6 +23,15 @@ if [ "${1:-}" = tool ]; then
     exec bench/tool.sh "$build/tools/tarn/tarn"
 fi
 cmake --build "$build" --target tarn_time tarn_count tarn_linearity >>"$build.log"
+if [ "${1:-}" = against ]; then
+    rm -rf "$build.other"
+    mkdir "$build.other"
+    git archive "$2" | tar -x -C "$build.other"
+    cmake -S "$build.other" -B "$build.other/build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+        -DTARN_TOOLS=OFF -DTARN_TESTS=OFF -DTARN_EXAMPLES=OFF >"$build.other.log"
+    cmake --build "$build.other/build" --target tarn >>"$build.other.log"
+    exec python3 bench/layouts.py "$build/bench/tarn_time" "$build.other/build" "$build" ${3:-}
+fi
 
 # count PROGRAM: runs it under callgrind, which leaves one dump for each of its measurements.
 count() {
