@@ -65,15 +65,16 @@ TARN_SHARED const uint8_t *make_slots(const Owner &owner, VelDllHead *list, cons
     return at;
 }
 
-// What stands behind a composite's header; `stop` is where a list's length ends.
+// What stands behind a composite's header. Only a list's length is known to be within the bytes.
 template <class Id>
 TARN_SHARED const uint8_t *make_children(Id id, VelDllHead *list, const uint8_t *at,
-                                         const uint8_t *stop, const uint8_t *end) {
+                                         uint32_t length, const uint8_t *end) {
     return by_kind<is_sequence>(
         id,
         [&](auto sequence)
             TARN_INLINE_LAMBDA { return make_slots(owner_of(sequence), list, at, end); },
         [&](auto elements) TARN_INLINE_LAMBDA {
+            const uint8_t *const stop = at + length;
             while (at != stop)
                 at = make_composite(element_of(elements), list, at, end);
             return at;
@@ -84,8 +85,7 @@ template <class Id>
 TARN_INLINE const uint8_t *make_in_place(Id id, VelDllHead *list, const uint8_t *at,
                                          const uint8_t *end) {
     TarnIe *ie = create_composite(id, TARN_CALLER(moduleInternal));
-    const uint8_t *const first = at + headerSize;
-    at = make_children(id, children_of(ie), first, first + load32(at + tagSize), end);
+    at = make_children(id, children_of(ie), at + headerSize, load32(at + tagSize), end);
     link_ie(list, ie, TARN_CALLER(moduleInternal));
     return at;
 }
@@ -143,7 +143,7 @@ uint32_t unpack_composite_ie(TarnIe *ie, const uint8_t *buffer, uint32_t availab
     const bool ok = decodes(judge_ie(id, nullptr, &in));
     *consumed = available - in.left;
     const auto make = [&](auto known) TARN_INLINE_LAMBDA {
-        make_children(known, children_of(ie), buffer + headerSize, in.at, in.at);
+        make_children(known, children_of(ie), buffer + headerSize, *consumed - headerSize, in.at);
     };
     if (ok)
         with_composite(id, make);
