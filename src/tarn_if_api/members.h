@@ -50,8 +50,9 @@ template <class Owner>
 TARN_INLINE TarnIe *take_next(VelDllHead *members, uint16_t tag, Caller caller) {
     VelDllHead *volatile list = members;
     for (TarnIe *ie = first_ie(members, caller); ie != nullptr; ie = next_ie(list, ie, caller)) {
-        // The history is 0 or 1: half of it tells, and is compared without fetching it first. That
-        // nearly every IE is the one keeps it in the register in which the platform returns it.
+        // The history is 0 or 1: half of it tells, and is compared without fetching it first. Told
+        // to be this sure, the compiler leaves the IE in the register in which the platform returns
+        // it, which [[likely]] does not achieve.
         if (__builtin_expect_with_probability(ie->tag == tag && uint16_t(ie->extractHistory) == 0,
                                               1, 0.999)) {
             ie->extractHistory = 1;
