@@ -24,13 +24,8 @@ if [ "${1:-}" = tool ]; then
 fi
 cmake --build "$build" --target tarn_time tarn_count tarn_linearity >>"$build.log"
 if [ "${1:-}" = against ]; then
-    rm -rf "$build.other"
-    mkdir "$build.other"
-    git archive "$2" | tar -x -C "$build.other"
-    cmake -S "$build.other" -B "$build.other/build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
-        -DTARN_TOOLS=OFF -DTARN_TESTS=OFF -DTARN_EXAMPLES=OFF >"$build.other.log"
-    cmake --build "$build.other/build" --target tarn >>"$build.other.log"
-    exec python3 bench/layouts.py "$build/bench/tarn_time" "$build.other/build" "$build" ${3:-}
+    other=$(scripts/revision.sh "${2:?the revision is missing}" speed)
+    exec python3 bench/layouts.py "$build/bench/tarn_time" "$other" "$build" ${3:-}
 fi
 
 # count PROGRAM: runs it under callgrind, which leaves one dump for each of its measurements.

@@ -7,17 +7,15 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 [ $# -gt 0 ] || { sed -n '2,6s/^# \{0,1\}//p' "$0"; exit 2; }
-revision=$(git rev-parse --short "$1^{commit}")
 cases=${2:-200000}
 first=${3:-0}
 group=1000
-old=build/compare/$revision
 new=build/compare/tree
 
-# configure SOURCE BUILD ARGUMENT...
+# configure BUILD ARGUMENT...
 configure() {
-    cmake -S "$1" -B "$2" -G Ninja -DCMAKE_BUILD_TYPE=Release -DTARN_TOOLS=OFF -DTARN_EXAMPLES=OFF \
-        "${@:3}" >"$2.log"
+    cmake -S . -B "$1" -G Ninja -DCMAKE_BUILD_TYPE=Release -DTARN_TOOLS=OFF -DTARN_EXAMPLES=OFF \
+        "${@:2}" >"$1.log"
 }
 
 # answers LIBRARY ARGUMENT...: a crash ends the output, which is a difference as any other.
@@ -27,38 +25,35 @@ answers() {
 
 # first_difference: the number of the first case or group whose lines differ.
 first_difference() {
-    { diff "$old.answers" "$new.answers" || true; } |
+    { diff "$new.expected" "$new.answers" || true; } |
         sed -n 's/^[<>] \([0-9]*\) .*/\1/p' | sort -n | sed -n 1p
 }
 
 # both OLD NEW ARGUMENT...: runs both at once; false if they differ.
 both() {
-    answers "$1" "${@:3}" >"$old.answers" &
+    answers "$1" "${@:3}" >"$new.expected" &
     answers "$2" "${@:3}" >"$new.answers"
     wait $!
-    cmp -s "$old.answers" "$new.answers"
+    cmp -s "$new.expected" "$new.answers"
 }
 
-mkdir -p "$old.source"
-git archive "$revision" | tar -x -C "$old.source"
-configure . "$new" -DTARN_TESTS=ON
+mkdir -p build/compare
+configure "$new" -DTARN_TESTS=ON
 cmake --build "$new" --target tarn_answers >>"$new.log"
 for form in speed compact; do
-    compact=$([ $form = compact ] && echo ON || echo OFF)
-    for side in "$old" "$new"; do
-        source=$([ "$side" = "$new" ] && echo . || echo "$old.source")
-        configure "$source" "$side-$form" -DTARN_TESTS=OFF -DTARN_COMPACT="$compact"
-        cmake --build "$side-$form" --target tarn >>"$side-$form.log"
-    done
-    if both "$old-$form" "$new-$form" "$first" "$cases" $group; then
+    old=$(scripts/revision.sh "$1" $form)
+    configure "$new-$form" -DTARN_TESTS=OFF \
+        -DTARN_COMPACT="$([ $form = compact ] && echo ON || echo OFF)"
+    cmake --build "$new-$form" --target tarn >>"$new-$form.log"
+    if both "$old" "$new-$form" "$first" "$cases" $group; then
         echo "$form: $cases cases alike"
         continue
     fi
     from=$(first_difference)
-    both "$old-$form" "$new-$form" "$from" $group 1 || true
+    both "$old" "$new-$form" "$from" $group 1 || true
     case=$(first_difference)
-    both "$old-$form" "$new-$form" "$case" || true
+    both "$old" "$new-$form" "$case" || true
     echo "$form: case $case, $1 (-) and this tree (+):"
-    diff --unified=20 "$old.answers" "$new.answers" | cut -c1-200 || true
+    diff --unified=20 "$new.expected" "$new.answers" | cut -c1-200 || true
     exit 1
 done
