@@ -1,7 +1,8 @@
 cmake_minimum_required(VERSION 3.25)
 
 # Reads facts off the shared object LIBRARY with READELF and NM. EXPORTS is the list of names that
-# it has to export; OPTIMIZED is false for a library compiled without optimization.
+# it has to export; OPTIMIZED is false for a library compiled without optimization, COMPACT true for
+# the compact form.
 function(read_off variable)
     execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE text ERROR_VARIABLE errors RESULT_VARIABLE result)
     if(NOT result EQUAL 0)
@@ -77,7 +78,7 @@ list(REMOVE_ITEM writable .dynamic .got .got.plt)
 read_off(relocations ${READELF} --relocs --wide ${LIBRARY})
 pick(relocated "(_RELATIVE|_ABS|_64 )" ${relocations})
 list(LENGTH relocated count)
-if(count LESS_EQUAL 3)
+if(count EQUAL 0 OR (NOT COMPACT AND count EQUAL 3))
     list(REMOVE_ITEM writable .data.rel.ro)
 endif()
 if(NOT OPTIMIZED)
